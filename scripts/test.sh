@@ -1,0 +1,114 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the host and the Windows presets, runs every test suite
+# (host natively, Windows under Wine with a private prefix and display) and ends with
+# one line "N passed, N failed". The exit status is non-zero when anything failed.
+set -uo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+started=$(date +%s)
+jobs=$(nproc 2>/dev/null || echo 2)
+
+passed=0
+failed=0
+problems=()
+
+note() { printf '\n== %s\n' "$*"; }
+fail_step() { problems+=("$1"); failed=$((failed + 1)); }
+
+finish() {
+  local secs=$(( $(date +%s) - started ))
+  printf '\n'
+  if [ "${#problems[@]}" -gt 0 ]; then
+    printf 'failures:\n'
+    printf '  %s\n' "${problems[@]}"
+  fi
+  printf 'total time: %dm%02ds\n' $((secs / 60)) $((secs % 60))
+  printf '%d passed, %d failed\n' "$passed" "$failed"
+  [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
+  exit $?
+}
+
+# count_ctest LOG RESULTS_DIR: adds GoogleTest cases (from their XML reports) and plain
+# ctest entries to the totals; a program that failed without failing cases counts once.
+count_ctest() {
+  local log=$1 results=$2 line name status xml tests fails errs dis skip
+  while IFS= read -r line; do
+    name=$(sed -E 's/.*Test +#[0-9]+: ([^ ]+) .*/\1/' <<<"$line")
+    if grep -q 'Passed' <<<"$line"; then status=ok; else status=bad; fi
+    xml="$results/$name.xml"
+    if [ -f "$xml" ] && [ "$xml" -nt "$log.start" ]; then
+      read -r tests fails errs dis skip < <(head -c 4000 "$xml" | grep -m1 -o '<testsuites[^>]*>' |
+        awk '{ t=f=e=d=s=0
+               if (match($0, / tests="[0-9]+"/))    t=substr($0, RSTART+8, RLENGTH-9)
+               if (match($0, / failures="[0-9]+"/)) f=substr($0, RSTART+11, RLENGTH-12)
+               if (match($0, / errors="[0-9]+"/))   e=substr($0, RSTART+9, RLENGTH-10)
+               if (match($0, / disabled="[0-9]+"/)) d=substr($0, RSTART+11, RLENGTH-12)
+               if (match($0, / skipped="[0-9]+"/))  s=substr($0, RSTART+10, RLENGTH-11)
+               print t, f, e, d, s }')
+      passed=$((passed + tests - fails - errs - dis - skip))
+      failed=$((failed + fails + errs))
+      if [ "$status" = bad ]; then
+        [ $((fails + errs)) -eq 0 ] && failed=$((failed + 1))
+        problems+=("$name")
+      fi
+    elif [ "$status" = ok ]; then
+      passed=$((passed + 1))
+    else
+      failed=$((failed + 1))
+      problems+=("$name")
+    fi
+  done < <(grep -E 'Test +#[0-9]+: ' "$log")
+}
+
+# run_ctest PRESET: runs one preset's tests and counts them.
+run_ctest() {
+  local preset=$1 dir=$root/build/$1
+  local log=$dir/ctest.log
+  rm -rf "$dir/test-results"
+  mkdir -p "$dir/test-results"
+  touch "$log.start"
+  ctest --preset "$preset" -j "$jobs" --timeout 600 2>&1 | tee "$log"
+  count_ctest "$log" "$dir/test-results"
+}
+
+note "dependencies"
+if ! scripts/install-deps.sh; then
+  fail_step "installing dependencies"
+  finish
+fi
+
+mkdir -p build
+for preset in host windows; do
+  note "configure and build: $preset"
+  log=build/build-$preset.log
+  if ! cmake --preset "$preset" >"$log" 2>&1; then
+    cat "$log"
+    fail_step "configure $preset"
+    continue
+  fi
+  if cmake --build --preset "$preset" -j "$jobs" >>"$log" 2>&1; then
+    tail -n 2 "$log"
+  else
+    grep -E -B2 -A12 'error|FAILED' "$log" | head -n 80
+    fail_step "build $preset"
+  fi
+done
+
+if [ "${#problems[@]}" -gt 0 ]; then
+  finish
+fi
+
+note "host tests"
+run_ctest host
+
+note "Windows tests under Wine"
+# shellcheck source=xvfb.sh
+. scripts/xvfb.sh
+if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix"; then
+  run_ctest windows
+  WINEPREFIX=$root/build/windows/wineprefix wineserver -k 2>/dev/null || true
+else
+  fail_step "starting Xvfb and Wine"
+fi
+
+finish
