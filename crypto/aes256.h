@@ -8,7 +8,7 @@ namespace Zelto {
 // cipher (Windows CNG or OpenSSL). The key is expanded once per direction after set_key, so a
 // value of many blocks pays for one expansion.
 class zlAes256 {
-public:
+  public:
     static constexpr unsigned kKeySize = 32;
     static constexpr unsigned kBlockSize = 16;
 
@@ -24,7 +24,7 @@ public:
     bool encrypt_block(uint8_t block[kBlockSize]);
     bool decrypt_block(uint8_t block[kBlockSize]);
 
-private:
+  private:
     struct Impl;
     Impl* impl_;
 };

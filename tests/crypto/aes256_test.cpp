@@ -1,0 +1,70 @@
+#include <gtest/gtest.h>
+
+#include "crypto/aes256.h"
+#include "code_text.h"
+
+namespace {
+
+using zelto_test::Bytes;
+using zelto_test::from_hex;
+
+struct Vector {
+    const char* key;
+    const char* plain;
+    const char* cipher;
+};
+
+// FIPS-197 appendix C.3, then the four ECB-AES256 blocks of NIST SP 800-38A F.1.5.
+const Vector kVectors[] = {
+    {"000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f",
+     "00112233445566778899aabbccddeeff", "8ea2b7ca516745bfeafc49904b496089"},
+    {"603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4",
+     "6bc1bee22e409f96e93d7e117393172a", "f3eed1bdb5d2a03c064b5a7e3db181f8"},
+    {"603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4",
+     "ae2d8a571e03ac9c9eb76fac45af8e51", "591ccb10d410ed26dc5ba74a31362870"},
+    {"603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4",
+     "30c81c46a35ce411e5fbc1191a0a52ef", "b6ed21b99ca6f4f9f153e7b1beafed1d"},
+    {"603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4",
+     "f69f2445df4f9b17ad2b417be66c3710", "23304b7a39f9f3ff067d8d8f9e24ecc7"},
+};
+
+TEST(Aes256, KnownAnswersBothDirections) {
+    for (const Vector& v : kVectors) {
+        SCOPED_TRACE(v.plain);
+        Zelto::zlAes256 aes;
+        ASSERT_TRUE(aes.set_key(from_hex(v.key).data()));
+
+        Bytes block = from_hex(v.plain);
+        ASSERT_TRUE(aes.encrypt_block(block.data()));
+        EXPECT_EQ(from_hex(v.cipher), block);
+
+        ASSERT_TRUE(aes.decrypt_block(block.data()));
+        EXPECT_EQ(from_hex(v.plain), block);
+    }
+}
+
+// One object keyed several times, directions mixed, must always use the latest key.
+TEST(Aes256, RekeyingTakesEffectInBothDirections) {
+    Zelto::zlAes256 aes;
+    for (int round = 0; round < 2; ++round) {
+        for (const Vector& v : kVectors) {
+            SCOPED_TRACE(v.plain);
+            ASSERT_TRUE(aes.set_key(from_hex(v.key).data()));
+            Bytes block = from_hex(v.cipher);
+            ASSERT_TRUE(aes.decrypt_block(block.data()));
+            EXPECT_EQ(from_hex(v.plain), block);
+            ASSERT_TRUE(aes.encrypt_block(block.data()));
+            EXPECT_EQ(from_hex(v.cipher), block);
+        }
+    }
+}
+
+TEST(Aes256, BlockOperationsWithoutKeyFailAndLeaveTheBlock) {
+    Zelto::zlAes256 aes;
+    Bytes block = from_hex(kVectors[0].plain);
+    EXPECT_FALSE(aes.encrypt_block(block.data()));
+    EXPECT_FALSE(aes.decrypt_block(block.data()));
+    EXPECT_EQ(from_hex(kVectors[0].plain), block);
+}
+
+}  // namespace
