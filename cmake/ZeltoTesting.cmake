@@ -35,6 +35,7 @@ function(zelto_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest_main)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(${name} PRIVATE
         ZELTO_TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data")
     # Wine reads a path without a drive as relative to the program's folder: name the drive.
