@@ -1,9 +1,10 @@
 # The XML pull parser, compiled from Debian's irrlicht source package. The sources are
-# fetched into the build tree, never committed. Two changes are made to the fetched copy:
+# fetched into the build tree, never committed. Changes made to the fetched copy:
 # - the reader's list of character references is replaced by the longer list the key file
 #   needs (the first matching entry wins, so the order matters);
 # - text nodes of white space only are delivered, because the reader's "last text" rule
-#   depends on them.
+#   depends on them;
+# - its scans stop at the end of the text (see below).
 set(ZELTO_IRRXML_DIR ${PROJECT_SOURCE_DIR}/build/third_party/irrlicht CACHE PATH
     "Unpacked irrlicht sources (fetched when missing)")
 
@@ -49,17 +50,34 @@ set(key_file_list [=[		static const char* const refs[] = {
 			SpecialCharacters.push_back(refs[i]);
 ]=])
 
-string(FIND "${impl}" "${stock_list}" at)
-if(at EQUAL -1)
-    message(FATAL_ERROR "irrXML: the list of special characters was not found; the patch needs updating")
-endif()
-string(REPLACE "${stock_list}" "${key_file_list}" impl "${impl}")
+# Replaces every occurrence of `from` by `to` in impl; stops the build when it is absent,
+# since a changed upstream text means the patch needs looking at again.
+function(zelto_irrxml_patch from to)
+    string(FIND "${impl}" "${from}" at)
+    if(at EQUAL -1)
+        message(FATAL_ERROR "irrXML: '${from}' not found; the build-time patch needs updating")
+    endif()
+    string(REPLACE "${from}" "${to}" patched "${impl}")
+    set(impl "${patched}" PARENT_SCOPE)
+endfunction()
 
-string(FIND "${impl}" "IgnoreWhitespaceText(true)" at)
-if(at EQUAL -1)
-    message(FATAL_ERROR "irrXML: IgnoreWhitespaceText initialiser not found; the patch needs updating")
-endif()
-string(REPLACE "IgnoreWhitespaceText(true)" "IgnoreWhitespaceText(false)" impl "${impl}")
+zelto_irrxml_patch("${stock_list}" "${key_file_list}")
+zelto_irrxml_patch("IgnoreWhitespaceText(true)" "IgnoreWhitespaceText(false)")
+
+# The stock scans look for '>' or a quote without stopping at the end of the text, so a
+# truncated file (a tag, comment or attribute cut off) reads past the buffer. Every scan
+# stops at the terminating zero; the buffer ends in four of them, so the single step the
+# parser takes past a scan's end stays inside it, and read() then sees the end.
+zelto_irrxml_patch("while(*P != L'>')" "while(*P != L'>' && *P)")
+zelto_irrxml_patch("while(*P != L'>' && !isWhiteSpace(*P))" "while(*P != L'>' && *P && !isWhiteSpace(*P))")
+zelto_irrxml_patch("while(!isWhiteSpace(*P) && *P != L'=')" "while(!isWhiteSpace(*P) && *P != L'=' && *P)")
+zelto_irrxml_patch("		while(count)\n" "		while(count && *P)\n")
+# An attribute cut off ends the element early with the previous node's name still set,
+# which would repeat that element: report such a node as unknown instead.
+zelto_irrxml_patch("if (!*P) // malformatted xml file"
+                   "if (!*P) CurrentNodeType = EXN_UNKNOWN;\n\t\t\t\t\tif (!*P)")
+# A comment shorter than "<!-- -->" (or cut off) would give a negative length.
+zelto_irrxml_patch("(int)(P - pCommentBegin-2)" "(int)(P - pCommentBegin - 2 > 0 ? P - pCommentBegin - 2 : 0)")
 
 # Written through a copy so that an unchanged result does not trigger a rebuild.
 file(WRITE ${irr_out}/CXMLReaderImpl.h.new "${impl}")

@@ -148,6 +148,27 @@ TEST_F(ReaderTest, MangledFilesGiveOneWithWhatWasBuiltSoFar) {
     EXPECT_EQ(nullptr, file.keys());
 }
 
+TEST_F(ReaderTest, FilesCutOffInsideMarkupKeepWhatCameBefore) {
+    ASSERT_EQ(1, readFixture("BrokenComment.xml"));
+    EXPECT_EQ("0A1B", file.settings()->verify.str());
+    ASSERT_EQ(1u, file.keys()->childCount());
+    EXPECT_EQ("4142", key(0).fieldValue(zlTypeKeyName).str());
+
+    ASSERT_EQ(1, readFixture("BrokenAttribute.xml"));
+    EXPECT_EQ("0A1B", file.settings()->verify.str());
+    ASSERT_EQ(1u, file.keys()->childCount());
+    EXPECT_EQ(0u, key(0).childCount());
+
+    ASSERT_EQ(1, readFixture("BrokenClosingTag.xml"));
+    ASSERT_EQ(1u, file.keys()->childCount());
+    EXPECT_EQ("4142", key(0).fieldValue(zlTypeKeyName).str());
+
+    // Without a document element nothing replaces what the tree held.
+    ASSERT_EQ(1, readFixture("BrokenDeclaration.xml"));
+    ASSERT_EQ(1u, file.root().childCount());
+    EXPECT_EQ(1u, file.keys()->childCount());
+}
+
 TEST_F(ReaderTest, ANewDocumentReplacesTheTree) {
     ASSERT_EQ(1, parse(std::string(kHead) + "<keys><key></key><key></key></keys></Zelto>"));
     ASSERT_EQ(2u, file.keys()->childCount());
