@@ -101,6 +101,30 @@ fi
 note "host tests"
 run_ctest host
 
+note "layering"
+if scripts/check-layering.sh; then passed=$((passed + 1)); else fail_step "layering"; fi
+
+note "fuzzers (short run over the seed corpus)"
+# Each target gets a bounded run on a scratch copy of its corpus; any finding fails.
+if cmake --preset fuzz >build/build-fuzz.log 2>&1 &&
+   cmake --build --preset fuzz -j "$jobs" >>build/build-fuzz.log 2>&1; then
+  for target in key_file decipher utf; do
+    scratch=build/fuzz/scratch/$target
+    rm -rf "$scratch" && mkdir -p "$scratch"
+    if (cd "$scratch" && "$root/build/fuzz/fuzz/fuzz_$target" -max_total_time="${ZELTO_FUZZ_SECONDS:-20}" \
+          -rss_limit_mb=2048 . "$root/fuzz/corpus/$target" >run.log 2>&1); then
+      echo "fuzz_$target: $(grep -o 'Done [0-9]* runs' "$scratch/run.log")"
+      passed=$((passed + 1))
+    else
+      tail -n 30 "$scratch/run.log"
+      fail_step "fuzz_$target"
+    fi
+  done
+else
+  tail -n 30 build/build-fuzz.log
+  fail_step "build fuzz"
+fi
+
 note "Windows tests under Wine"
 # shellcheck source=xvfb.sh
 . scripts/xvfb.sh
