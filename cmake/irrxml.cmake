@@ -76,6 +76,12 @@ zelto_irrxml_patch("		while(count)\n" "		while(count && *P)\n")
 # which would repeat that element: report such a node as unknown instead.
 zelto_irrxml_patch("if (!*P) // malformatted xml file"
                    "if (!*P) CurrentNodeType = EXN_UNKNOWN;\n\t\t\t\t\tif (!*P)")
+# Text with a UTF-16 or UTF-32 byte order mark is converted into a buffer without any
+# terminating zero, and a byte-swapped source is walked up to a zero character that an
+# odd size may leave outside the buffer: give both buffers zeros to spare.
+zelto_irrxml_patch("char* data8 = new char[size];" "char* data8 = new char[size + 4]();")
+zelto_irrxml_patch("TextData = new char_type[sizeWithoutHeader];"
+                   "TextData = new char_type[sizeWithoutHeader + 4]();")
 # A comment shorter than "<!-- -->" (or cut off) would give a negative length.
 zelto_irrxml_patch("(int)(P - pCommentBegin-2)" "(int)(P - pCommentBegin - 2 > 0 ? P - pCommentBegin - 2 : 0)")
 

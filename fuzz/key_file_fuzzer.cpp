@@ -12,12 +12,10 @@ using dunmar::dm_utf8_str;
 namespace {
 
 void decipherAll(const zlFileItem* list) {
-    if (!list)
-        return;
+    if (!list) return;
     for (size_t i = 0; i < list->childCount(); ++i) {
         const zlFileItem* item = list->child(i);
-        if (!item || item->typeCode() != zlTypeKey)
-            continue;
+        if (!item || item->typeCode() != zlTypeKey) continue;
         const auto* key = static_cast<const zlFileItemKey*>(item);
         for (int type = zlTypeKeyName; type <= zlTypeKeyNote; ++type) {
             dm_utf8_str plain;
@@ -27,15 +25,8 @@ void decipherAll(const zlFileItem* list) {
     }
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    dm_utf8_str text(reinterpret_cast<const char*>(data), size);
-    // Files are taken as zero-terminated text.
-    text = dm_utf8_str(text.c_str());
-    if (zlIsOlderFormat(text))
-        return 0;
-
+void readAndUse(dm_utf8_str text) {
+    if (zlIsOlderFormat(text)) return;
     zlKeyFile file;
     file.set_pass_phrase("fuzzing password");
     file.readText(std::move(text));
@@ -48,5 +39,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         file.decrypt(s->verify, verify);
     }
     file.buildFileText(dm_utf8_str("English"));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const dm_utf8_str raw(reinterpret_cast<const char*>(data), size);
+    // As a file is read (cut at its first zero byte), and as bytes handed over whole,
+    // which reach the parser's UTF-16 and UTF-32 paths.
+    readAndUse(dm_utf8_str(raw.c_str()));
+    readAndUse(raw);
     return 0;
 }
