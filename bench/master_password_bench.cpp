@@ -90,7 +90,6 @@ BENCHMARK(BM_ChangeMasterPassword)
     ->Arg(1000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond)
-    ->Repetitions(3)
     ->MinTime(0.5);
 
 }  // namespace

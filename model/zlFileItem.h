@@ -48,6 +48,7 @@ class zlFileItem {
     void writeContainer(const char* name, const dunmar::dm_utf8_str& indent,
                         dunmar::dm_utf8_str& out) const;
     void cloneChildrenInto(zlFileItem& copy) const;
+    void reserveChildren(size_t count) { children_.reserve(count); }
 
   private:
     zlEncrypt* owner_;

@@ -7,7 +7,7 @@ namespace Zelto {
 // One account. Its fields are found by type code; the setters take enciphered text.
 class zlFileItemKey : public zlFileItem {
   public:
-    explicit zlFileItemKey(zlEncrypt* owner) : zlFileItem(owner) {}
+    explicit zlFileItemKey(zlEncrypt* owner) : zlFileItem(owner) { reserveChildren(7); }
     int typeCode() const override { return zlTypeKey; }
     bool writeXml(const dunmar::dm_utf8_str& indent, dunmar::dm_utf8_str& out) const override;
     zlFileItem* clone() const override;

@@ -28,103 +28,186 @@ struct IrrXMLReaderHelper {
     zlFileItemTrash* openTrash = nullptr;
 };
 
-bool is(const char* a, const char* b) {
-    return std::strcmp(a, b) == 0;
+// The elements the reader knows. Worked out once per node from its name, so that the
+// start and end handlers switch instead of comparing names one after another.
+enum class Element {
+    Other,
+    Zelto,
+    Settings,
+    Keys,
+    Key,
+    Trash,
+    Name,
+    Label,
+    User,
+    Pw,
+    Email,
+    Url,
+    Note,
+    Verify,
+    Autolock,
+    AutoClearClipboard,
+    ShowSelectedKey,
+    Language,
+    UserFirstName,
+    UserLastName,
+    UserEmail,
+};
+
+Element elementOf(const char* name) {
+    struct Entry {
+        const char* name;
+        Element element;
+    };
+    static const Entry entries[] = {
+        {"Zelto", Element::Zelto},
+        {"settings", Element::Settings},
+        {"keys", Element::Keys},
+        {"key", Element::Key},
+        {"trash", Element::Trash},
+        {"name", Element::Name},
+        {"label", Element::Label},
+        {"user", Element::User},
+        {"pw", Element::Pw},
+        {"email", Element::Email},
+        {"url", Element::Url},
+        {"note", Element::Note},
+        {"verify", Element::Verify},
+        {"autolock", Element::Autolock},
+        {"autoClearClipboard", Element::AutoClearClipboard},
+        {"showSelectedKey", Element::ShowSelectedKey},
+        {"language", Element::Language},
+        {"userFirstName", Element::UserFirstName},
+        {"userLastName", Element::UserLastName},
+        {"userEmail", Element::UserEmail},
+    };
+    // Most names differ in their first character already; compare in full only then.
+    for (const Entry& e : entries) {
+        if (e.name[0] == name[0] && std::strcmp(e.name, name) == 0)
+            return e.element;
+    }
+    return Element::Other;
 }
 
-int keyFieldType(const char* name) {
-    if (is(name, "name"))
-        return zlTypeKeyName;
-    if (is(name, "label"))
-        return zlTypeKeyLabel;
-    if (is(name, "user"))
-        return zlTypeKeyUser;
-    if (is(name, "email"))
-        return zlTypeKeyEmail;
-    if (is(name, "url"))
-        return zlTypeKeyUrl;
-    if (is(name, "note"))
-        return zlTypeKeyNote;
-    return 0;
+int keyFieldType(Element element) {
+    switch (element) {
+        case Element::Name:
+            return zlTypeKeyName;
+        case Element::Label:
+            return zlTypeKeyLabel;
+        case Element::User:
+            return zlTypeKeyUser;
+        case Element::Email:
+            return zlTypeKeyEmail;
+        case Element::Url:
+            return zlTypeKeyUrl;
+        case Element::Note:
+            return zlTypeKeyNote;
+        default:
+            return 0;
+    }
 }
 
-void onStart(IrrXMLReaderHelper& h, zlFileItemRoot& root, const char* name) {
+void onStart(IrrXMLReaderHelper& h, zlFileItemRoot& root, Element element) {
     zlEncrypt* owner = root.owner();
-    if (is(name, "Zelto")) {
-        // The tree holds only what this file says.
-        root.clearChildren();
-        h.openSettings = nullptr;
-        h.openKeys = nullptr;
-        h.openKey = nullptr;
-        h.openTrash = nullptr;
-    } else if (is(name, "settings")) {
-        h.openSettings = new zlFileItemSettings(owner);
-        root.appendChild(h.openSettings);
-    } else if (is(name, "keys")) {
-        h.openKeys = new zlFileItemKeys(owner);
-        root.appendChild(h.openKeys);
-    } else if (is(name, "key")) {
-        zlFileItem* container = h.openKeys ? static_cast<zlFileItem*>(h.openKeys)
-                                           : static_cast<zlFileItem*>(h.openTrash);
-        if (container) {
-            h.openKey = new zlFileItemKey(owner);
-            container->appendChild(h.openKey);
+    switch (element) {
+        case Element::Zelto:
+            // The tree holds only what this file says.
+            root.clearChildren();
+            h.openSettings = nullptr;
+            h.openKeys = nullptr;
+            h.openKey = nullptr;
+            h.openTrash = nullptr;
+            break;
+        case Element::Settings:
+            h.openSettings = new zlFileItemSettings(owner);
+            root.appendChild(h.openSettings);
+            break;
+        case Element::Keys:
+            h.openKeys = new zlFileItemKeys(owner);
+            root.appendChild(h.openKeys);
+            break;
+        case Element::Key: {
+            zlFileItem* container = h.openKeys ? static_cast<zlFileItem*>(h.openKeys)
+                                               : static_cast<zlFileItem*>(h.openTrash);
+            if (container) {
+                h.openKey = new zlFileItemKey(owner);
+                container->appendChild(h.openKey);
+            }
+            break;
         }
-    } else if (is(name, "trash")) {
-        h.openTrash = new zlFileItemTrash(owner);
-        root.appendChild(h.openTrash);
+        case Element::Trash:
+            h.openTrash = new zlFileItemTrash(owner);
+            root.appendChild(h.openTrash);
+            break;
+        default:
+            break;
     }
 }
 
-void onEnd(IrrXMLReaderHelper& h, const char* name, const dm_utf8_str& lastText) {
-    if (is(name, "Zelto"))
-        return;
-    if (is(name, "settings")) {
-        h.openSettings = nullptr;
-        return;
+void onSettingsEnd(zlFileItemSettings& s, Element element, const dm_utf8_str& lastText) {
+    switch (element) {
+        case Element::Verify:
+            s.verify = lastText;
+            break;
+        case Element::Autolock:
+            s.autolock = zlClampSetting(lastText.c_str(), 5, 600);
+            break;
+        case Element::AutoClearClipboard:
+            s.autoClearClipboard = zlClampSetting(lastText.c_str(), 5, 600);
+            break;
+        case Element::ShowSelectedKey:
+            s.showSelectedKey = zlClampSetting(lastText.c_str(), 1, 30);
+            break;
+        case Element::Language:
+            s.language = lastText;
+            break;
+        case Element::UserFirstName:
+            s.setUserFirstName(lastText, false);
+            break;
+        case Element::UserLastName:
+            s.setUserLastName(lastText, false);
+            break;
+        case Element::UserEmail:
+            s.setUserEmail(lastText, false);
+            break;
+        default:
+            break;
     }
-    if (is(name, "keys")) {
-        h.openKeys = nullptr;
-        return;
+}
+
+void onEnd(IrrXMLReaderHelper& h, Element element, const dm_utf8_str& lastText) {
+    switch (element) {
+        case Element::Zelto:
+            return;
+        case Element::Settings:
+            h.openSettings = nullptr;
+            return;
+        case Element::Keys:
+            h.openKeys = nullptr;
+            return;
+        case Element::Key:
+            h.openKey = nullptr;
+            return;
+        case Element::Pw:
+            // "pw" is also the older name of the settings' verify value.
+            if (h.openSettings) {
+                h.openSettings->verify = lastText;
+            } else if (h.openKey) {
+                h.openKey->appendChild(zlMakeKeyField(zlTypeKeyPW, h.openKey->owner(), lastText));
+            }
+            return;
+        default:
+            break;
     }
-    if (is(name, "key")) {
-        h.openKey = nullptr;
-        return;
-    }
-    if (const int type = keyFieldType(name)) {
+    if (const int type = keyFieldType(element)) {
         if (h.openKey)
             h.openKey->appendChild(zlMakeKeyField(type, h.openKey->owner(), lastText));
         return;
     }
-    if (is(name, "pw")) {
-        // "pw" is also the older name of the settings' verify value.
-        if (h.openSettings) {
-            h.openSettings->verify = lastText;
-        } else if (h.openKey) {
-            h.openKey->appendChild(zlMakeKeyField(zlTypeKeyPW, h.openKey->owner(), lastText));
-        }
-        return;
-    }
-    if (zlFileItemSettings* s = h.openSettings) {
-        if (is(name, "verify")) {
-            s->verify = lastText;
-        } else if (is(name, "autolock")) {
-            s->autolock = zlClampSetting(lastText.c_str(), 5, 600);
-        } else if (is(name, "autoClearClipboard")) {
-            s->autoClearClipboard = zlClampSetting(lastText.c_str(), 5, 600);
-        } else if (is(name, "showSelectedKey")) {
-            s->showSelectedKey = zlClampSetting(lastText.c_str(), 1, 30);
-        } else if (is(name, "language")) {
-            s->language = lastText;
-        } else if (is(name, "userFirstName")) {
-            s->setUserFirstName(lastText, false);
-        } else if (is(name, "userLastName")) {
-            s->setUserLastName(lastText, false);
-        } else if (is(name, "userEmail")) {
-            s->setUserEmail(lastText, false);
-        }
-    }
-    if (is(name, "trash"))
+    if (h.openSettings)
+        onSettingsEnd(*h.openSettings, element, lastText);
+    if (element == Element::Trash)
         h.openTrash = nullptr;
 }
 
@@ -155,10 +238,10 @@ int zlKeyFileReader::readText(dm_utf8_str&& text) {
     while (h.parser->read()) {
         switch (h.parser->getNodeType()) {
             case irr::io::EXN_ELEMENT:
-                onStart(h, root_, h.parser->getNodeName());
+                onStart(h, root_, elementOf(h.parser->getNodeName()));
                 break;
             case irr::io::EXN_ELEMENT_END:
-                onEnd(h, h.parser->getNodeName(), lastText);
+                onEnd(h, elementOf(h.parser->getNodeName()), lastText);
                 break;
             case irr::io::EXN_TEXT: {
                 const char* data = h.parser->getNodeData();

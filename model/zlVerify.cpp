@@ -14,7 +14,8 @@ const char zlVerifyText[] =
 static_assert(sizeof(zlVerifyText) == zlVerifyTextLength + 1, "the verify text is 113 bytes");
 
 dm_utf8_str zlMakeVerifyValue(const dm_utf8_str& password) {
-    if (password.empty()) return dm_utf8_str();
+    if (password.empty())
+        return dm_utf8_str();
     zlEncrypt cipher;
     if (password.length() >= zlEncrypt::kMinPassPhrase &&
         password.length() <= zlEncrypt::kMaxPassPhrase) {
@@ -31,13 +32,17 @@ int zlSetPassword(zlKeyFile& file, const char* password) {
     return file.set_pass_phrase(password);
 }
 
-const std::string& zlGetPassword(const zlKeyFile& file) { return file.pass_phrase(); }
+const std::string& zlGetPassword(const zlKeyFile& file) {
+    return file.pass_phrase();
+}
 
 int zlCheckPassword(const zlKeyFile& file) {
     const zlFileItemSettings* settings = file.settings();
-    if (!settings) return zlPasswordNoSettings;
+    if (!settings)
+        return zlPasswordNoSettings;
     dm_utf8_str plain;
-    if (file.decrypt(settings->verify, plain) != 0) return zlPasswordWrong;
+    if (file.decrypt(settings->verify, plain) != 0)
+        return zlPasswordWrong;
     if (plain.length() != zlVerifyTextLength ||
         std::memcmp(plain.c_str(), zlVerifyText, zlVerifyTextLength) != 0) {
         return zlPasswordWrong;
