@@ -34,20 +34,39 @@ int hex_digit(char c) {
     return -1;
 }
 
+// Byte i written as its upper-case hexadecimal pair.
+struct HexTable {
+    char codes[kCodeTableSize][kCodeSize];
+    HexTable() {
+        const char* digits = "0123456789ABCDEF";
+        for (unsigned i = 0; i < kCodeTableSize; ++i) {
+            codes[i][0] = digits[i / 16];
+            codes[i][1] = digits[i % 16];
+            codes[i][2] = '\0';
+        }
+    }
+};
+
 }  // namespace
 
-zlCodeIndex::zlCodeIndex() {
+zlCodeIndex::zlCodeIndex(const char (&table)[kCodeTableSize][kCodeSize]) {
     for (unsigned c = 0; c < 256; ++c) {
         digit_[c] = static_cast<int8_t>(hex_digit(static_cast<char>(c)));
     }
     for (unsigned i = 0; i < kCodeTableSize; ++i) {
-        const int value = hex_digit(kCodeTable[i][0]) * 16 + hex_digit(kCodeTable[i][1]);
+        const int value = hex_digit(table[i][0]) * 16 + hex_digit(table[i][1]);
         byte_[value] = static_cast<uint8_t>(i);
     }
 }
 
 const zlCodeIndex& code_index() {
-    static const zlCodeIndex index;
+    static const zlCodeIndex index(kCodeTable);
+    return index;
+}
+
+const zlCodeIndex& hex_index() {
+    static const HexTable table;
+    static const zlCodeIndex index(table.codes);
     return index;
 }
 
