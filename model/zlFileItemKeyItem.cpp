@@ -59,6 +59,11 @@ void zlFileItemKeyName::setValue(const dm_utf8_str& value, const dm_utf8_str& pl
     plainName_ = plainName;
 }
 
+void zlFileItemKeyName::setValue(const dm_utf8_str& value) {
+    value_ = value;
+    plainName_.clear();
+}
+
 zlFileItemKeyItem* zlMakeKeyField(int typeCode, zlEncrypt* owner, const dm_utf8_str& value) {
     switch (typeCode) {
         case zlTypeKeyName: {

@@ -56,9 +56,10 @@ class zlFileItemKeyName : public zlFileItemKeyItem {
     // Deciphers the value on first request when no plain name is cached yet.
     const dunmar::dm_utf8_str& plainName() const;
     void setValue(const dunmar::dm_utf8_str& value, const dunmar::dm_utf8_str& plainName);
+    // Without the plain form at hand it is deciphered again on the next request.
+    void setValue(const dunmar::dm_utf8_str& value) override;
 
   private:
-    using zlFileItemKeyItem::setValue;
     mutable dunmar::dm_utf8_str plainName_;
 };
 

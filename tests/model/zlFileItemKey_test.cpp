@@ -56,6 +56,11 @@ TEST(zlFileItemKey, PlainNameIsDecipheredOnDemandAndNotForAnEmptyValue) {
     zlFileItemKeyName fromFile(&f, enc(f, "bank"), dm_utf8_str());
     EXPECT_EQ("bank", fromFile.plainName().str());
 
+    // A value set without its plain form is deciphered anew.
+    zlFileItemKeyItem& asField = fromFile;
+    asField.setValue(enc(f, "shop"));
+    EXPECT_EQ("shop", fromFile.plainName().str());
+
     zlFileItemKeyName empty(&f, dm_utf8_str(), dm_utf8_str());
     EXPECT_TRUE(empty.plainName().empty());
 
