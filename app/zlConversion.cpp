@@ -1,0 +1,92 @@
+#include "app/zlConversion.h"
+
+#include <string>
+
+#include "app/zlConverterRun.h"
+#include "app/zlFileOps.h"
+#include "app/zlTexts.h"
+#include "core/dm_system.h"
+
+namespace Zelto {
+
+using dunmar::dm_string;
+using dunmar::dm_utf8_str;
+
+namespace {
+
+dm_string wide(const char* text) {
+    return dm_utf8_str(text).to_wide();
+}
+
+bool fail(dm_string& detail, const char* text) {
+    detail = wide(text);
+    return false;
+}
+
+void completeTree(zlKeyFile& file) {
+    if (!file.settings())
+        file.root().appendChild(new zlFileItemSettings(&file));
+    if (!file.keys())
+        file.root().appendChild(new zlFileItemKeys(&file));
+}
+
+// The same writer as every save, but under the language name the file holds, so that the
+// language the converter kept is not replaced by the current interface language.
+bool writeBack(zlKeyFile& file) {
+    const dm_utf8_str language = file.settings()->language;
+    const dm_utf8_str text =
+        file.buildFileText(language.empty() ? zlLanguageNameForFile() : language);
+    return dunmar::dm_system::write_file(file.path(), text);
+}
+
+}  // namespace
+
+bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_string& detail) {
+    detail.clear();
+    if (!files.valid()) {
+        detail = files.detail;
+        return false;
+    }
+    if (!zlCopyFile(files.keyFile, files.workingCopy, true))
+        return fail(detail, "failed to copy file \"Zelto.xml\" to \"ZeltoPre.xml\"");
+
+    dm_string runDetail;
+    unsigned long exitCode = 0;
+    if (!zlRunConverter(files, password, runDetail, exitCode)) {
+        detail = wide("failed to run ZeltoPre.exe (");
+        detail.append(runDetail);
+        detail.append(wide(") - ("));
+        detail.append(exitCode == 2 ? wide("Incorrect password")
+                                    : dm_utf8_str(std::to_string(exitCode)).to_wide());
+        detail.append(wide(")"));
+        return false;
+    }
+    if (!zlCopyFile(files.keyFile, files.backup, true))
+        return fail(detail, "failed to copy file \"Zelto.xml\" to \"Zelto.backup.xml\"");
+    if (!zlCopyFile(files.workingCopy, files.keyFile, true))
+        return fail(detail, "failed to copy file \"ZeltoPre.xml\" to \"Zelto.xml\"");
+    return true;
+}
+
+int zlReadWithConversion(zlKeyFile& file, const zlFileSet& files, const dm_utf8_str& password,
+                         dm_string& detail) {
+    detail.clear();
+    int result = zlReadFailed;
+    if (zlConvertKeyFile(files, password, detail)) {
+        result = file.readFile(files.keyFile);
+        if (result == zlReadOk) {
+            completeTree(file);
+            // The converted file is already whole on disk: a failed rewrite loses nothing.
+            static_cast<void>(writeBack(file));
+        } else {
+            detail = wide("conversion to new xml format failed");
+        }
+    } else if (detail.empty()) {
+        detail = wide("failed to convert xml file to new format");
+    }
+    zlDeleteFile(files.converter);
+    zlDeleteFile(files.workingCopy);
+    return result;
+}
+
+}  // namespace Zelto
