@@ -1,0 +1,220 @@
+#!/usr/bin/env bash
+# The command line from first use to a converted older file, step by step:
+#   scenario.sh CLI LEGACY_FIXTURE [RUNNER]
+# CLI is zelto-cli (or zelto-cli.exe with RUNNER, e.g. scripts/wine-run.sh). Every step's
+# output and exit status are checked; the first wrong one ends the run with a message.
+set -u
+cli=${1:?usage: scenario.sh CLI LEGACY_FIXTURE [RUNNER]}
+legacy_fixture=${2:?usage: scenario.sh CLI LEGACY_FIXTURE [RUNNER]}
+runner=${3:-}
+legacy_password="legacy password"
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+# A Windows program sees the Linux folders on drive Z:.
+drive=""
+[ -n "$runner" ] && drive="Z:"
+file="$drive$work/Zelto.xml"
+step=""
+
+fail() {
+  printf 'FAIL at step "%s": %s\n' "$step" "$1" >&2
+  printf -- '--- exit status: %s\n--- standard output:\n%s\n--- standard error:\n%s\n' \
+    "$status" "$out" "$err" >&2
+  exit 1
+}
+
+# run INPUT ARGS...: runs the program on the key file with INPUT on standard input.
+run() {
+  local input=$1
+  shift
+  out=$(printf '%s' "$input" | $runner "$cli" --file "$file" "$@" 2>"$work/stderr")
+  status=$?
+  err=$(cat "$work/stderr")
+}
+
+expect_status() { [ "$status" = "$1" ] || fail "exit status $status, expected $1"; }
+expect_out() { [ "$out" = "$1" ] || fail "output differs from: $1"; }
+expect_err() { [ "$err" = "$1" ] || fail "standard error differs from: $1"; }
+expect_out_has() { [[ $out == *"$1"* ]] || fail "output lacks: $1"; }
+expect_err_has() { [[ $err == *"$1"* ]] || fail "standard error lacks: $1"; }
+# ok INPUT ARGS...: a step that must succeed without a word on standard error.
+ok() {
+  run "$@"
+  expect_status 0
+  expect_err ""
+}
+
+pw="Master2024"
+m="$pw"$'\n'
+
+step="help"
+run "" --help
+expect_status 0
+for command in init ls labels show get add edit rm passwd backup settings help; do
+  expect_out_has "  $command "
+done
+for command in init ls labels show get add edit rm passwd backup settings; do
+  run "" "$command" --help
+  expect_status 0
+  [[ $out == "Usage: zelto-cli [--file PATH] $command"* ]] || fail "help of $command"
+done
+run "" frobnicate
+expect_status 1
+expect_err_has "ERROR: unknown command 'frobnicate'"
+
+step="init"
+run $'short\nshort\n' init
+expect_status 1
+expect_err "ERROR: Password size to small"
+[ -e "$work/Zelto.xml" ] && fail "a refused password created the file"
+ok "$m$m" init
+expect_out "created \"$file\""
+head -c 38 "$work/Zelto.xml" | grep -q '^<?xml version="1.0" encoding="utf-8"?>' ||
+  fail "the new file is no key file"
+
+step="three adds with labels"
+ok "${m}gh-secret-1"$'\n' add github --label "work, dev" --user alice --email alice@example.org \
+  --url https://github.example/ --note $'first line\nsecond line' --password-stdin
+expect_out 'added #1 "github"'
+ok "$m" add bank --label home --user bob --generate
+expect_out 'added #2 "bank"'
+ok "${m}m@il pass"$'\n' add mail --label work --user carol --password-stdin
+expect_out 'added #3 "mail"'
+
+step="ls"
+ok "$m" ls
+expect_out $'#1 github (work, dev)\n#2 bank (home)\n#3 mail (work)'
+ok "$m" ls --label work
+expect_out $'#1 github (work, dev)\n#3 mail (work)'
+ok "$m" ls --label Work
+expect_out ""
+ok "$m" labels
+expect_out $'work\ndev\nhome'
+
+step="show"
+ok "$m" show github
+expect_out $'#1\nname:  github\nlabel: work, dev\nuser:  alice\npw:    ********\nemail: alice@example.org\nurl:   https://github.example/\nnote:  first line\n       second line'
+ok "$m" show '#1' --json --reveal
+expect_out_has '"pw": "gh-secret-1"'
+expect_out_has '"note": "first line\nsecond line"'
+
+step="get pw"
+ok "$m" get github pw
+expect_out "gh-secret-1"
+ok "$m" get bank pw
+[[ $out =~ ^zl[A-Za-z0-9]{14}$ ]] || fail "generated password $out"
+bank_pw=$out
+
+step="edit"
+ok "$m" edit github --name gitlab --user alice2 --label "work, code"
+expect_out 'changed #1 "gitlab"'
+ok "$m" get '#1' name
+expect_out "gitlab"
+ok "$m" get gitlab user
+expect_out "alice2"
+ok "$m" get gitlab pw
+expect_out "gh-secret-1"
+ok "$m" edit gitlab --user alice2
+expect_out 'nothing changed in #1 "gitlab"'
+ok "$m" get bank pw
+expect_out "$bank_pw"
+
+step="rm and ls --trash"
+ok "$m" rm bank
+expect_out 'moved #2 "bank" to the trash'
+ok "$m" ls
+expect_out $'#1 gitlab (work, code)\n#2 mail (work)'
+ok "$m" ls --trash
+expect_out '#1 bank (home)'
+run "$m" get bank pw
+expect_status 3
+expect_err 'ERROR: no key named "bank"'
+
+step="passwd"
+ok "$m" show gitlab --json --reveal
+gitlab_before=$out
+ok "$m" show mail --json --reveal
+mail_before=$out
+run "${m}Bad pass"$'\nBad pass\n' passwd
+expect_status 1
+expect_err "ERROR: Invalid character in password (allowed: A-Z, a-z, 0-9)"
+new="NewMaster99"
+n="$new"$'\n'
+ok "$m$n$n" passwd
+expect_out_has "master password changed; the old file is kept as \"$drive$work/Zelto.backup."
+backup_of_passwd=${out#*kept as \"}
+backup_of_passwd=${backup_of_passwd%\"}
+cmp -s "${backup_of_passwd#"$drive"}" /dev/null && fail "the backup is empty"
+ok "$n" show gitlab --json --reveal
+[ "$out" = "$gitlab_before" ] || fail "gitlab differs under the new password"
+ok "$n" show mail --json --reveal
+[ "$out" = "$mail_before" ] || fail "mail differs under the new password"
+ok "$n" ls --trash
+expect_out '#1 bank (home)'
+ok "$n" labels
+expect_out $'work\ncode'
+run "$m" get gitlab pw
+expect_status 2
+expect_err "ERROR: wrong master password"
+expect_out ""
+m=$n
+
+step="backup"
+ok "$m" backup
+[[ $out == "$drive$work/Zelto.backup."*".xml" ]] || fail "backup path"
+cmp -s "${out#"$drive"}" "$work/Zelto.xml" || fail "the backup differs from the key file"
+
+step="settings clamps"
+ok "$m" settings
+expect_out $'autolock: 30\nclear-clipboard: 30\nshow-selected: 2\nlanguage: English'
+ok "$m" settings --autolock 4 --clear-clipboard 601 --show-selected 31
+expect_out $'autolock: 0\nclear-clipboard: 600\nshow-selected: 30\nlanguage: English'
+ok "$m" settings --autolock 5 --language Deutsch
+expect_out $'autolock: 5\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch'
+grep -q '<autolock>5</autolock>' "$work/Zelto.xml" || fail "autolock not stored"
+grep -q '<language>Deutsch</language>' "$work/Zelto.xml" || fail "language not stored"
+
+step="wrong password"
+run "WrongPassword1"$'\n' ls
+expect_status 2
+expect_err "ERROR: wrong master password"
+expect_out ""
+
+step="ambiguous name"
+run "${m}other"$'\n' add mail --password-stdin
+expect_status 0
+expect_out 'added #3 "mail"'
+expect_err 'WARNING: 2 keys are named "mail" (#2, #3); name one by its position'
+run "$m" get mail pw
+expect_status 3
+expect_err 'ERROR: 2 keys are named "mail" (#2, #3); name one by its position'
+ok "$m" get '#3' pw
+expect_out "other"
+run "$m" get '#9' pw
+expect_status 3
+expect_err "ERROR: no key at position #9"
+
+step="legacy file converted"
+mkdir "$work/legacy"
+cp "$legacy_fixture" "$work/legacy/Zelto.xml"
+file="$drive$work/legacy/Zelto.xml"
+run "wrong password 1"$'\n' ls
+expect_status 2
+expect_err_has "(Incorrect password))"
+cmp -s "$legacy_fixture" "$work/legacy/Zelto.xml" || fail "a failed conversion changed the file"
+ok "$legacy_password"$'\n' ls
+expect_out $'#1 Bank (money, home)\n#2 M\xC3\xBCller GmbH\n#3 Plain name'
+grep -q encrypted "$work/legacy/Zelto.xml" && fail "the file was not converted"
+kept=("$work"/legacy/Zelto.backup.*.xml)
+[ -f "${kept[0]}" ] || fail "no backup of the older file"
+cmp -s "$legacy_fixture" "${kept[0]}" || fail "the backup is not the older file"
+ok "$legacy_password"$'\n' get Bank pw
+expect_out "p&ss<w>rd \"1\" 'x'"
+ok "$legacy_password"$'\n' settings
+expect_out $'autolock: 30\nclear-clipboard: 45\nshow-selected: 2\nlanguage: Deutsch'
+for left in ZeltoPre.xml ZeltoPre.exe; do
+  [ -e "$work/legacy/$left" ] && fail "the converter's $left was left behind"
+done
+
+echo "scenario passed"

@@ -1,0 +1,237 @@
+#include "cli/zlcRun.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+
+#include "app/zlTexts.h"
+#include "cli/zlcCommandTable.h"
+#include "support/test_util.h"
+
+using namespace Zelto;
+
+namespace {
+
+const char* kMaster = "Master2024";
+
+struct Result {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+// Runs commands in-process on a key file in a fresh folder. Secrets come from a list;
+// a hook runs before each one is handed out, standing in for another program.
+class CliTest : public ::testing::Test {
+  protected:
+    void TearDown() override { zlSetLanguage(zlLanguageAuto); }
+
+    Result run(std::vector<std::string> argv, std::vector<std::string> secrets,
+               bool terminal = false) {
+        argv.insert(argv.begin(), {"--file", path()});
+        size_t next = 0;
+        zlcIo io;
+        io.outIsTerminal = terminal;
+        io.readSecret = [&](const char*, std::string& line) {
+            if (beforeSecret)
+                beforeSecret(next);
+            if (next >= secrets.size())
+                return false;
+            line = secrets[next++];
+            return true;
+        };
+        Result r;
+        r.status = zlcRun(argv, io);
+        r.out = io.out;
+        r.err = io.err;
+        secretsRead = next;
+        return r;
+    }
+
+    std::string path() const { return ztest::widePath(dir / "Zelto.xml").to_utf8().str(); }
+    std::string bytes() const { return ztest::readBytes(dir / "Zelto.xml"); }
+
+    void makeFile() {
+        ASSERT_EQ(0, run({"init"}, {kMaster, kMaster}).status);
+        ASSERT_EQ(0,
+                  run({"add", "bank", "--label", "home", "--password-stdin"}, {kMaster, "pin 1234"})
+                      .status);
+    }
+
+    size_t filesInFolder() const {
+        size_t n = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(dir.path())) {
+            (void)entry;
+            ++n;
+        }
+        return n;
+    }
+
+    ztest::TempDir dir;
+    std::function<void(size_t)> beforeSecret;
+    size_t secretsRead = 0;
+};
+
+TEST_F(CliTest, AFileChangedMeanwhileIsNotOverwritten) {
+    makeFile();
+    const std::string other = bytes() + "\r\n<!-- another program -->";
+    // The hook changes the file after the master password, while the key's password or
+    // the new master password is asked for.
+    beforeSecret = [&](size_t index) {
+        if (index == 1)
+            ztest::writeBytes(dir / "Zelto.xml", other);
+    };
+    const std::vector<std::pair<std::vector<std::string>, std::vector<std::string>>> writes = {
+        {{"add", "shop", "--password-stdin"}, {kMaster, "x"}},
+        {{"edit", "bank", "--password-stdin"}, {kMaster, "new pin"}},
+        {{"passwd"}, {kMaster, "Another2024", "Another2024"}},
+    };
+    for (const auto& w : writes) {
+        ztest::writeBytes(dir / "Zelto.xml", other.substr(0, other.size() - 25));
+        const Result r = run(w.first, w.second);
+        EXPECT_EQ(4, r.status) << w.first[0];
+        EXPECT_NE(std::string::npos, r.err.find("was changed by another program since it was "
+                                                "read; nothing was written"))
+            << r.err;
+        EXPECT_EQ(other, bytes()) << w.first[0];
+    }
+    EXPECT_EQ(1u, filesInFolder()) << "no backup may be made";
+}
+
+TEST_F(CliTest, TheMasterPasswordMustOpenTheFile) {
+    // No file: nothing is asked.
+    Result r = run({"ls"}, {kMaster});
+    EXPECT_EQ(4, r.status);
+    EXPECT_EQ(0u, secretsRead);
+    EXPECT_EQ(
+        "ERROR: failed to read \"" + path() + "\" (no such file; 'zelto-cli init' creates one)\n",
+        r.err);
+    makeFile();
+    for (const char* wrong : {"Master2025", "short", ""}) {
+        r = run({"get", "bank", "pw"}, {wrong});
+        EXPECT_EQ(2, r.status) << wrong;
+        EXPECT_EQ("ERROR: wrong master password\n", r.err);
+        EXPECT_EQ("", r.out);
+    }
+    r = run({"ls"}, {});
+    EXPECT_EQ(1, r.status);
+    EXPECT_EQ("ERROR: no master password was given\n", r.err);
+    r = run({"get", "bank", "pw"}, {kMaster});
+    EXPECT_EQ(0, r.status);
+    EXPECT_EQ("pin 1234", r.out);
+    EXPECT_EQ("pin 1234\n", run({"get", "bank", "pw"}, {kMaster}, true).out);
+}
+
+TEST_F(CliTest, FilesWithoutTheirSectionsAreRefused) {
+    ztest::writeBytes(dir / "Zelto.xml", "<?xml version=\"1.0\"?>\r\n<Zelto>\r\n</Zelto>");
+    Result r = run({"ls"}, {kMaster});
+    EXPECT_EQ(4, r.status);
+    EXPECT_NE(std::string::npos, r.err.find("(<settings> section not found)")) << r.err;
+
+    std::filesystem::remove(dir / "Zelto.xml");
+    ASSERT_EQ(0, run({"init"}, {kMaster, kMaster}).status);
+    std::string text = bytes();
+    text.replace(text.find("  <keys>\r\n  </keys>\r\n"), 21, "");
+    ztest::writeBytes(dir / "Zelto.xml", text);
+    r = run({"ls"}, {kMaster});
+    EXPECT_EQ(4, r.status);
+    EXPECT_NE(std::string::npos, r.err.find("(KeyList not found)")) << r.err;
+    EXPECT_EQ(text, bytes());
+}
+
+TEST_F(CliTest, InitAppliesThePasswordRules) {
+    const std::vector<std::pair<std::vector<std::string>, std::string>> refused = {
+        {{"abc1234", "abc1234"}, "Password size to small"},
+        {{"1abcdefg", "1abcdefg"}, "First character must not be a number"},
+        {{"abcd 1234", "abcd 1234"}, "Invalid character in password (allowed: A-Z, a-z, 0-9)"},
+        {{"abcdefg\xff", "abcdefg\xff"}, "Invalid character in password (allowed: A-Z, a-z, 0-9)"},
+        {{"Abcd1234", "abcd1234"}, "Password and verification text are not equal"},
+        {{"abcd1234", ""}, "Password and verification text are not equal"},
+        {{"abcd1234"}, "the new master password was not repeated"},
+    };
+    for (const auto& c : refused) {
+        const Result r = run({"init"}, c.first);
+        EXPECT_EQ(1, r.status) << c.second;
+        EXPECT_EQ("ERROR: " + c.second + "\n", r.err);
+        EXPECT_FALSE(std::filesystem::exists(dir / "Zelto.xml"));
+    }
+    Result r = run({"init"}, {"abcd1234", "abcd1234"});
+    ASSERT_EQ(0, r.status) << r.err;
+    EXPECT_EQ("created \"" + path() + "\"\n", r.out);
+    const std::string made = bytes();
+    r = run({"init"}, {"efgh5678", "efgh5678"});
+    EXPECT_EQ(4, r.status);
+    EXPECT_EQ(0u, secretsRead);
+    EXPECT_EQ(made, bytes());
+    EXPECT_EQ(0, run({"ls"}, {"abcd1234"}).status);
+}
+
+TEST_F(CliTest, EditWritesOnlyWhatChanges) {
+    makeFile();
+    const std::string before = bytes();
+    Result r = run({"edit", "bank", "--label", "home"}, {kMaster});
+    EXPECT_EQ(0, r.status);
+    EXPECT_EQ("nothing changed in #1 \"bank\"\n", r.out);
+    EXPECT_EQ(before, bytes());
+    r = run({"edit", "#1", "--name", "savings", "--user", "ada"}, {kMaster});
+    EXPECT_EQ(0, r.status) << r.err;
+    EXPECT_EQ("changed #1 \"savings\"\n", r.out);
+    EXPECT_EQ("ada", run({"get", "savings", "user"}, {kMaster}).out);
+    EXPECT_EQ("home", run({"get", "savings", "label"}, {kMaster}).out);
+    EXPECT_EQ("pin 1234", run({"get", "savings", "pw"}, {kMaster}).out);
+    // Refused before anything is asked.
+    r = run({"edit", "savings", "--name", ""}, {kMaster});
+    EXPECT_EQ(1, r.status);
+    EXPECT_EQ(0u, secretsRead);
+    r = run({"add", "x", "--generate", "--password-stdin"}, {kMaster});
+    EXPECT_EQ(1, r.status);
+    EXPECT_EQ("ERROR: --generate and --password-stdin exclude each other\n", r.err);
+    r = run({"get", "savings", "password"}, {kMaster});
+    EXPECT_EQ(1, r.status);
+    EXPECT_EQ(0u, secretsRead);
+    r = run({"edit", "nosuch", "--user", "x"}, {kMaster});
+    EXPECT_EQ(3, r.status);
+    EXPECT_EQ("ERROR: no key named \"nosuch\"\n", r.err);
+}
+
+TEST_F(CliTest, GeneratedPasswordsFollowTheProposal) {
+    makeFile();
+    ASSERT_EQ(0, run({"add", "shop", "--generate"}, {kMaster}).status);
+    ASSERT_EQ(0, run({"edit", "bank", "--generate"}, {kMaster}).status);
+    const std::string first = run({"get", "shop", "pw"}, {kMaster}).out;
+    const std::string second = run({"get", "bank", "pw"}, {kMaster}).out;
+    EXPECT_NE(first, second);
+    for (const std::string& pw : {first, second}) {
+        ASSERT_EQ(16u, pw.size()) << pw;
+        EXPECT_EQ("zl", pw.substr(0, 2));
+        for (char c : pw)
+            EXPECT_TRUE(std::isalnum(static_cast<unsigned char>(c))) << pw;
+    }
+}
+
+TEST_F(CliTest, SettingsKeepTheLanguageAcrossWrites) {
+    makeFile();
+    Result r = run({"settings", "--language", "Francais"}, {kMaster});
+    EXPECT_EQ(1, r.status);
+    EXPECT_EQ(0u, secretsRead);
+    r = run({"settings", "--language", "Deutsch", "--show-selected", "31"}, {kMaster});
+    ASSERT_EQ(0, r.status) << r.err;
+    EXPECT_EQ("autolock: 30\nclear-clipboard: 30\nshow-selected: 30\nlanguage: Deutsch\n", r.out);
+    zlSetLanguage(zlLanguageEnglish);  // a new run starts from the file's language
+    ASSERT_EQ(0, run({"add", "shop"}, {kMaster}).status);
+    EXPECT_NE(std::string::npos, bytes().find("<language>Deutsch</language>"));
+    EXPECT_EQ(run({"settings"}, {kMaster}).out, r.out);
+}
+
+TEST_F(CliTest, EveryCommandIsBuiltIn) {
+    for (const zlcCommandSpec& command : zlcCommands()) {
+        std::vector<std::string> argv = {command.name};
+        for (int i = 0; i < command.minArguments; ++i)
+            argv.push_back(i == 1 ? "pw" : "x");
+        const Result r = run(argv, {});
+        EXPECT_EQ(std::string::npos, r.err.find("is not built in")) << command.name;
+    }
+}
+
+}  // namespace
