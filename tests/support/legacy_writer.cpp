@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "core/dm_format.h"
 #include "core/dm_utf8_str.h"
 #include "crypto/code_table.h"
 #include "crypto/zlEncrypt.h"
@@ -25,32 +26,6 @@ std::string legacyHex(const std::string& password, const std::string& plain) {
     return hex;
 }
 
-std::string xmlEscape(const std::string& text) {
-    std::string out;
-    for (char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '>':
-                out += "&gt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            case '\'':
-                out += "&apos;";
-                break;
-            default:
-                out += c;
-        }
-    }
-    return out;
-}
-
 std::string legacyText(const LegacyFile& file) {
     std::string text = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n<Zelto>\r\n  <settings>\r\n";
     if (file.withVerify) {
@@ -68,7 +43,7 @@ std::string legacyText(const LegacyFile& file) {
         text += "    <key>\r\n";
         for (const LegacyField& f : key) {
             const std::string value =
-                f.encrypted ? legacyHex(file.password, f.plain) : xmlEscape(f.plain);
+                f.encrypted ? legacyHex(file.password, f.plain) : dunmar::dm_xml_escape(f.plain);
             text += "      <" + f.element + " encrypted=\"" + (f.encrypted ? "true" : "false") +
                     "\">" + value + "</" + f.element + ">\r\n";
         }
