@@ -2,7 +2,7 @@
 #include "app/zlPasswordRules.h"
 #include "cli/zlcCommands.h"
 #include "cli/zlcExitCodes.h"
-#include "cli/zlcKeyLookup.h"
+#include "cli/zlcOpenKey.h"
 #include "cli/zlcSession.h"
 
 namespace Zelto {
@@ -91,17 +91,15 @@ int zlcEdit(zlcContext& c) {
     if (checked != zlcExitOk)
         return checked;
     zlcSession session(c.io, c.files);
-    const int opened = session.open();
+    zlcKeyMatch match;
+    const int opened = zlcOpenKey(c, session, match);
     if (opened != zlcExitOk)
         return opened;
-    const std::string& key = c.args.arguments[0];
-    const zlcKeyMatch match = zlcFindKey(session.file().keys(), key);
-    if (match.result != zlcKeyMatch::found)
-        return zlcFail(c.io, zlcExitNoKey, zlcKeyMatchMessage(match, key));
 
     zlKeyFields before;
     if (!zlReadKeyFields(*match.key, before))
-        return zlcFail(c.io, zlcExitFile, "the fields of key " + key + " do not decipher");
+        return zlcFail(c.io, zlcExitFile,
+                       "the fields of key " + c.args.arguments[0] + " do not decipher");
     zlKeyFields after = before;
     const int applied = applyOptions(c, after);
     if (applied != zlcExitOk)

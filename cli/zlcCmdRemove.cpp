@@ -1,19 +1,16 @@
 #include "cli/zlcCommands.h"
 #include "cli/zlcExitCodes.h"
-#include "cli/zlcKeyLookup.h"
+#include "cli/zlcOpenKey.h"
 #include "cli/zlcSession.h"
 
 namespace Zelto {
 
 int zlcRemove(zlcContext& c) {
     zlcSession session(c.io, c.files);
-    const int opened = session.open();
+    zlcKeyMatch match;
+    const int opened = zlcOpenKey(c, session, match);
     if (opened != zlcExitOk)
         return opened;
-    const std::string& key = c.args.arguments[0];
-    const zlcKeyMatch match = zlcFindKey(session.file().keys(), key);
-    if (match.result != zlcKeyMatch::found)
-        return zlcFail(c.io, zlcExitNoKey, zlcKeyMatchMessage(match, key));
     const std::string name = match.key->plainName().str();
     if (!session.file().moveKeyToTrash(match.key))
         return zlcFail(c.io, zlcExitFile, "the key could not be moved to the trash");

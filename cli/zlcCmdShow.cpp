@@ -2,7 +2,7 @@
 #include "cli/zlcCommands.h"
 #include "cli/zlcExitCodes.h"
 #include "cli/zlcFieldNames.h"
-#include "cli/zlcKeyLookup.h"
+#include "cli/zlcOpenKey.h"
 #include "cli/zlcOutput.h"
 #include "cli/zlcSession.h"
 
@@ -12,13 +12,10 @@ namespace {
 
 // Opens the file and deciphers the fields of the key that the first argument names.
 int openKey(zlcContext& c, zlcSession& session, zlcKeyMatch& match, zlKeyFields& fields) {
-    const int opened = session.open();
+    const int opened = zlcOpenKey(c, session, match);
     if (opened != zlcExitOk)
         return opened;
     const std::string& key = c.args.arguments[0];
-    match = zlcFindKey(session.file().keys(), key);
-    if (match.result != zlcKeyMatch::found)
-        return zlcFail(c.io, zlcExitNoKey, zlcKeyMatchMessage(match, key));
     if (!zlReadKeyFields(*match.key, fields))
         return zlcFail(c.io, zlcExitFile, "the fields of key " + key + " do not decipher");
     return zlcExitOk;
