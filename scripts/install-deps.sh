@@ -9,12 +9,33 @@ packages=(
   wine wine64 fonts-wine xvfb xauth xdotool imagemagick
 )
 
+# --- cloud export tests: the emulator pinned in package.json and package-lock.json. ---
+# npm ci runs only when node_modules is missing or the lock file changed since it last ran.
+install_npm_packages() {
+  local root stamp sum
+  root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+  [ -f "$root/package-lock.json" ] || return 0
+  stamp=$root/node_modules/.zelto-lock.sha256
+  sum=$(sha256sum "$root/package-lock.json" | cut -d' ' -f1)
+  if [ -x "$root/node_modules/.bin/azurite-table" ] && [ "$(cat "$stamp" 2>/dev/null)" = "$sum" ]; then
+    return 0
+  fi
+  echo "installing npm packages (npm ci)"
+  (cd "$root" && npm ci --no-audit --no-fund --loglevel=error) || return 1
+  echo "$sum" >"$stamp"
+}
+# --- end of the cloud export block ---
+
 if [ "$(id -u)" -eq 0 ]; then sudo=(); else sudo=(sudo); fi
 
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
 done
+# Cloud export tests: node and npm from Debian, unless the machine has them already (some
+# node packages bring their own npm and conflict with Debian's).
+command -v node >/dev/null 2>&1 || missing+=(nodejs)
+command -v npm >/dev/null 2>&1 || missing+=(npm)
 
 # irrXML comes from the irrlicht source package, so apt needs a deb-src entry.
 need_src=0
@@ -23,7 +44,8 @@ if ! grep -rqsE '^(deb-src|Types:.*deb-src)' /etc/apt/sources.list /etc/apt/sour
 fi
 
 if [ "${#missing[@]}" -eq 0 ] && [ "$need_src" -eq 0 ]; then
-  exit 0
+  install_npm_packages  # cloud export tests
+  exit $?
 fi
 
 if [ "$need_src" -eq 1 ]; then
@@ -47,3 +69,5 @@ if [ "${#missing[@]}" -gt 0 ]; then
   echo "installing: ${missing[*]}"
   "${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
+
+install_npm_packages  # cloud export tests

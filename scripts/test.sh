@@ -129,7 +129,14 @@ note "Windows tests under Wine"
 # shellcheck source=xvfb.sh
 . scripts/xvfb.sh
 if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix"; then
+  # --- cloud export: the table service emulator that cloud_service_tests writes to; it
+  # exports ZELTO_CLOUD_CONNECTION_STRING for ctest and stops when this script exits. ---
+  # shellcheck source=azurite.sh
+  . scripts/azurite.sh
+  zelto_start_azurite || fail_step "starting the azurite table service"
+  # --- end of the cloud export block ---
   run_ctest windows
+  zelto_stop_azurite  # cloud export
   WINEPREFIX=$root/build/windows/wineprefix wineserver -k 2>/dev/null || true
 else
   fail_step "starting Xvfb and Wine"
