@@ -21,7 +21,21 @@ std::string settingsText(const zlFileItemSettings& s) {
     return "autolock: " + std::to_string(s.autolock) + "\n" +
            "clear-clipboard: " + std::to_string(s.autoClearClipboard) + "\n" +
            "show-selected: " + std::to_string(s.showSelectedKey) + "\n" +
-           "language: " + zlLanguageNameForFile().str() + "\n";
+           "language: " + zlLanguageNameForFile().str() + "\n" +
+           "first-name: " + s.userFirstName(true).str() + "\n" +
+           "last-name: " + s.userLastName(true).str() + "\n" + "email: " + s.userEmail(true).str() +
+           "\n";
+}
+
+// Sets one enciphered user field from its option; false when enciphering failed.
+bool userField(const zlcArgs& args, const char* option, const dm_utf8_str& current,
+               bool (zlFileItemSettings::*set)(const dm_utf8_str&, bool), zlFileItemSettings& s,
+               bool& changed) {
+    const std::string* text = args.value(option);
+    if (!text || *text == current.str())
+        return true;
+    changed = true;
+    return (s.*set)(dm_utf8_str(*text), true);
 }
 
 }  // namespace
@@ -44,8 +58,16 @@ int zlcSettings(zlcContext& c) {
         seconds(c.args, "clear-clipboard", s.autoClearClipboard, zlClampAutoSeconds);
     const int32_t shown =
         seconds(c.args, "show-selected", s.showSelectedKey, zlClampShowSelectedSeconds);
-    const bool changed = autolock != s.autolock || clipboard != s.autoClearClipboard ||
-                         shown != s.showSelectedKey || (language && *language != s.language.str());
+    bool changed = autolock != s.autolock || clipboard != s.autoClearClipboard ||
+                   shown != s.showSelectedKey || (language && *language != s.language.str());
+    if (!userField(c.args, "first-name", s.userFirstName(true),
+                   &zlFileItemSettings::setUserFirstName, s, changed) ||
+        !userField(c.args, "last-name", s.userLastName(true), &zlFileItemSettings::setUserLastName,
+                   s, changed) ||
+        !userField(c.args, "email", s.userEmail(true), &zlFileItemSettings::setUserEmail, s,
+                   changed))
+        return zlcFail(c.io, zlcExitFile,
+                       "a user field could not be enciphered; nothing was written");
     if (changed) {
         s.autolock = autolock;
         s.autoClearClipboard = clipboard;

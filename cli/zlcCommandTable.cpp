@@ -95,12 +95,24 @@ std::vector<zlcCommandSpec> makeCommands() {
         "Seconds are read as the settings dialog reads them (leading digits, anything else\n"
         "is 0) and clamped: --autolock and --clear-clipboard below 5 become 0 (off) and\n"
         "above 600 become 600; --show-selected below 1 becomes 0 (off) and above 30\n"
-        "becomes 30.\n",
+        "becomes 30. The user fields are stored enciphered; an empty value empties one.\n",
         kMaster,
         {{"autolock", "N", "lock after N seconds without input"},
          {"clear-clipboard", "N", "clear the clipboard N seconds after a copy"},
          {"show-selected", "N", "show a selected key's name for N seconds"},
-         {"language", "L", "the file's language: English or Deutsch"}}));
+         {"language", "L", "the file's language: English or Deutsch"},
+         {"first-name", "T", "your first name, for the cloud export (stored enciphered)"},
+         {"last-name", "T", "your last name, the export's partition key (stored enciphered)"},
+         {"email", "T", "your e-mail address, the export's row key (stored enciphered)"}}));
+    c.push_back(
+        command("export", "", 0, 0, "export the enciphered key file to the cloud table",
+                "Writes the key file as it is saved, still enciphered, with your first name, last\n"
+                "name, e-mail address (see settings) and the password's verify value into one\n"
+                "record of the table \"user\" of the cloud account; a second export replaces it.\n"
+                "The account is built in; the environment variable ZELTO_CLOUD_CONNECTION_STRING\n"
+                "names another one. Names and addresses the table cannot take as keys, and files\n"
+                "too large for one record, are refused before anything is sent.\n",
+                kMaster, {{"show-data", nullptr, "print the key file text that is sent"}}));
     c.push_back(command("help", "[COMMAND]", 0, 1, "show the help of the tool or of a command",
                         "Shows the help of the tool, or of COMMAND.\n", nullptr, {}));
     return c;

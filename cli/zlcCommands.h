@@ -25,5 +25,6 @@ int zlcRemove(zlcContext& c);
 int zlcPasswd(zlcContext& c);
 int zlcBackup(zlcContext& c);
 int zlcSettings(zlcContext& c);
+int zlcExport(zlcContext& c);
 
 }  // namespace Zelto

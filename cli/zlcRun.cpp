@@ -18,7 +18,7 @@ struct Handler {
 const Handler kHandlers[] = {
     {"init", zlcInit},     {"ls", zlcList},       {"labels", zlcLabels},     {"show", zlcShow},
     {"get", zlcGet},       {"add", zlcAdd},       {"edit", zlcEdit},         {"rm", zlcRemove},
-    {"passwd", zlcPasswd}, {"backup", zlcBackup}, {"settings", zlcSettings},
+    {"passwd", zlcPasswd}, {"backup", zlcBackup}, {"settings", zlcSettings}, {"export", zlcExport},
 };
 
 }  // namespace
