@@ -167,13 +167,20 @@ cmp -s "${out#"$drive"}" "$work/Zelto.xml" || fail "the backup differs from the 
 
 step="settings clamps"
 ok "$m" settings
-expect_out $'autolock: 30\nclear-clipboard: 30\nshow-selected: 2\nlanguage: English'
+expect_out $'autolock: 30\nclear-clipboard: 30\nshow-selected: 2\nlanguage: English\nfirst-name: \nlast-name: \nemail: '
 ok "$m" settings --autolock 4 --clear-clipboard 601 --show-selected 31
-expect_out $'autolock: 0\nclear-clipboard: 600\nshow-selected: 30\nlanguage: English'
+expect_out $'autolock: 0\nclear-clipboard: 600\nshow-selected: 30\nlanguage: English\nfirst-name: \nlast-name: \nemail: '
 ok "$m" settings --autolock 5 --language Deutsch
-expect_out $'autolock: 5\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch'
+expect_out $'autolock: 5\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: \nlast-name: \nemail: '
 grep -q '<autolock>5</autolock>' "$work/Zelto.xml" || fail "autolock not stored"
 grep -q '<language>Deutsch</language>' "$work/Zelto.xml" || fail "language not stored"
+
+step="settings user fields"
+ok "$m" settings --first-name Ada --last-name Lovelace --email ada@example.org
+expect_out $'autolock: 5\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: Ada\nlast-name: Lovelace\nemail: ada@example.org'
+grep -q 'Lovelace' "$work/Zelto.xml" && fail "a user field was stored in plain text"
+ok "$m" settings --last-name ""
+expect_out_has $'first-name: Ada\nlast-name: \nemail: ada@example.org'
 
 step="wrong password"
 run "WrongPassword1"$'\n' ls
@@ -212,7 +219,7 @@ cmp -s "$legacy_fixture" "${kept[0]}" || fail "the backup is not the older file"
 ok "$legacy_password"$'\n' get Bank pw
 expect_out "p&ss<w>rd \"1\" 'x'"
 ok "$legacy_password"$'\n' settings
-expect_out $'autolock: 30\nclear-clipboard: 45\nshow-selected: 2\nlanguage: Deutsch'
+expect_out $'autolock: 30\nclear-clipboard: 45\nshow-selected: 2\nlanguage: Deutsch\nfirst-name: \nlast-name: \nemail: '
 for left in ZeltoPre.xml ZeltoPre.exe; do
   [ -e "$work/legacy/$left" ] && fail "the converter's $left was left behind"
 done

@@ -79,7 +79,10 @@ TEST_F(CliConversionTest, TheOldFileIsKeptAndTheKeysAreListed) {
     ASSERT_EQ(0, run({"get", "Bank", "pw"}, ztest::kLegacyFixturePassword, out, err)) << err;
     EXPECT_EQ("p&ss<w>rd \"1\" 'x'", out);
     ASSERT_EQ(0, run({"settings"}, ztest::kLegacyFixturePassword, out, err)) << err;
-    EXPECT_EQ("autolock: 30\nclear-clipboard: 45\nshow-selected: 2\nlanguage: Deutsch\n", out);
+    EXPECT_EQ(
+        "autolock: 30\nclear-clipboard: 45\nshow-selected: 2\nlanguage: Deutsch\nfirst-name: "
+        "\nlast-name: \nemail: \n",
+        out);
 }
 
 TEST_F(CliConversionTest, AWrongPasswordConvertsNothing) {

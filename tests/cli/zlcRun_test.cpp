@@ -217,7 +217,10 @@ TEST_F(CliTest, SettingsKeepTheLanguageAcrossWrites) {
     EXPECT_EQ(0u, secretsRead);
     r = run({"settings", "--language", "Deutsch", "--show-selected", "31"}, {kMaster});
     ASSERT_EQ(0, r.status) << r.err;
-    EXPECT_EQ("autolock: 30\nclear-clipboard: 30\nshow-selected: 30\nlanguage: Deutsch\n", r.out);
+    EXPECT_EQ(
+        "autolock: 30\nclear-clipboard: 30\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: "
+        "\nlast-name: \nemail: \n",
+        r.out);
     zlSetLanguage(zlLanguageEnglish);  // a new run starts from the file's language
     ASSERT_EQ(0, run({"add", "shop"}, {kMaster}).status);
     EXPECT_NE(std::string::npos, bytes().find("<language>Deutsch</language>"));
