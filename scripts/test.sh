@@ -101,6 +101,15 @@ fi
 note "host tests"
 run_ctest host
 
+note "host tests under AddressSanitizer and UBSan"
+if cmake --preset sanitize >build/build-sanitize.log 2>&1 &&
+   cmake --build --preset sanitize -j "$jobs" >>build/build-sanitize.log 2>&1; then
+  run_ctest sanitize
+else
+  grep -E -B2 -A12 'error|FAILED' build/build-sanitize.log | head -n 80
+  fail_step "build sanitize"
+fi
+
 note "layering"
 if scripts/check-layering.sh; then passed=$((passed + 1)); else fail_step "layering"; fi
 

@@ -55,7 +55,8 @@ TEST(DmObject, AssignmentReplacesNameAndAttributes) {
     EXPECT_NE(target.attributes(), with_attributes.attributes());
     EXPECT_EQ(target.attributes()->at(0).str(), "b");
 
-    target = target;  // self-assignment keeps everything
+    const dm_utf8_str& same = target;
+    target = same;  // self-assignment keeps everything
     ASSERT_NE(target.attributes(), nullptr);
     EXPECT_EQ(target.str(), "x");
 }
