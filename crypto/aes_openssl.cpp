@@ -20,6 +20,44 @@ const EVP_CIPHER* aes_256_ecb() {
 #endif
 }
 
+// Contexts kept per thread for the next value: making a fresh one for every value costs
+// about as much as the key expansion. A context is reset (its key material cleansed) before
+// it is kept.
+class ContextCache {
+  public:
+    ~ContextCache() {
+        for (EVP_CIPHER_CTX* c : free_) {
+            EVP_CIPHER_CTX_free(c);
+        }
+    }
+    EVP_CIPHER_CTX* take() {
+        if (count_ == 0) {
+            return EVP_CIPHER_CTX_new();
+        }
+        return free_[--count_];
+    }
+    void give(EVP_CIPHER_CTX* c) {
+        if (c == nullptr) {
+            return;
+        }
+        if (count_ == kSlots || EVP_CIPHER_CTX_reset(c) != 1) {
+            EVP_CIPHER_CTX_free(c);
+            return;
+        }
+        free_[count_++] = c;
+    }
+
+  private:
+    static constexpr unsigned kSlots = 4;
+    EVP_CIPHER_CTX* free_[kSlots] = {};
+    unsigned count_ = 0;
+};
+
+ContextCache& context_cache() {
+    thread_local ContextCache cache;
+    return cache;
+}
+
 }  // namespace
 
 struct zlAes256::Impl {
@@ -29,8 +67,8 @@ struct zlAes256::Impl {
     uint8_t key[kKeySize] = {};
 
     ~Impl() {
-        EVP_CIPHER_CTX_free(ctx[0]);
-        EVP_CIPHER_CTX_free(ctx[1]);
+        context_cache().give(ctx[0]);
+        context_cache().give(ctx[1]);
         OPENSSL_cleanse(key, sizeof key);
     }
 
@@ -47,7 +85,7 @@ struct zlAes256::Impl {
             return nullptr;
         }
         if (ctx[encrypt] == nullptr) {
-            ctx[encrypt] = EVP_CIPHER_CTX_new();
+            ctx[encrypt] = context_cache().take();
             if (ctx[encrypt] == nullptr) {
                 return nullptr;
             }
