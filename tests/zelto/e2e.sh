@@ -1,0 +1,343 @@
+#!/usr/bin/env bash
+# Zelto.exe as a user meets it, under Wine on an X display, driven with xdotool:
+#   e2e.sh ZELTO_EXE PROBE_EXE CLI_EXE LEGACY_FIXTURE SCREENSHOT_DIR
+# Each scenario copies the program into a folder of its own, starts it, types and clicks,
+# reads the windows back with PROBE_EXE and checks the exit status and the key file. CLI_EXE
+# (zelto-cli.exe) makes key files with keys. The run has a display and a Wine prefix
+# (WINEPREFIX, made when missing) of its own, so that other tests running at the same time
+# can neither take the keyboard focus nor show windows in the screenshots.
+set -u
+zelto=${1:?usage: e2e.sh ZELTO_EXE PROBE_EXE CLI_EXE LEGACY_FIXTURE SCREENSHOT_DIR}
+probe=${2:?}
+cli=${3:?}
+legacy_fixture=${4:?}
+shots=${5:?}
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+: "${WINEPREFIX:?WINEPREFIX must name a Wine prefix for this run (made when missing)}"
+export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+
+# shellcheck source=../../scripts/xvfb.sh
+. "$root/scripts/xvfb.sh"
+zelto_start_xvfb || exit 1
+"$root/scripts/wine-prefix.sh" "$WINEPREFIX" || exit 1
+work=$(mktemp -d)
+zpid=""
+cleanup() {
+  [ -n "$zpid" ] && kill "$zpid" 2>/dev/null
+  wineserver -k 2>/dev/null
+  rm -rf "$work"
+  zelto_stop_xvfb
+}
+trap cleanup EXIT
+mkdir -p "$shots"
+
+password="Secret12pw"
+main_title='^Zelto \(2\.2\.1\)$'
+login_title='^Zelto \(2\.2\.1\) - LogIn$'
+setpw_title='^Zelto - Set Master Password$'
+box_title='^Zelto$'
+step=""
+passed=0
+
+fail() {
+  printf 'FAIL in "%s": %s\n--- windows:\n' "$step" "$*" >&2
+  wine "$probe" 2>/dev/null | tr -d '\r' >&2
+  exit 1
+}
+ok() {
+  passed=$((passed + 1))
+  printf 'ok   %s\n' "$step"
+}
+
+# --- driving -------------------------------------------------------------------------
+
+# start DIR: runs the copy of Zelto.exe in DIR in the background.
+start() {
+  (cd "$1" && exec wine ./Zelto.exe) >/dev/null 2>&1 &
+  zpid=$!
+}
+# finish SECONDS: waits for the program to end; its exit status goes to $code.
+finish() {
+  local i
+  for i in $(seq 1 $(($1 * 10))); do
+    if ! kill -0 "$zpid" 2>/dev/null; then
+      wait "$zpid"
+      code=$?
+      zpid=""
+      return 0
+    fi
+    sleep 0.1
+  done
+  fail "the program did not end within $1 s"
+}
+# window TITLE_REGEX: the X window of that title, waiting up to 30 s.
+window() {
+  local i id
+  for i in $(seq 1 150); do
+    id=$(xdotool search --name "$1" 2>/dev/null | head -n 1)
+    if [ -n "$id" ]; then
+      sleep 0.5  # let it finish painting
+      echo "$id"
+      return 0
+    fi
+    sleep 0.2
+  done
+  return 1
+}
+need_window() {
+  win=$(window "$1") || fail "no window titled $1"
+}
+windows() { wine "$probe" 2>/dev/null | tr -d '\r'; }
+# child_point ID [DOWN]: a screen point in the child with that identifier in the window
+# that $win names: the middle, or DOWN pixels below its top edge.
+child_point() {
+  local title
+  title=$(xdotool getwindowname "$win")
+  windows | awk -v title="\"$title\"" -v id="$1" -v down="${2:-}" '
+    /^window / { inside = index($0, title) > 0 }
+    inside && $1 == "child" && $2 == id {
+      match($0, /rect=[-0-9]+,[-0-9]+,[-0-9]+,[-0-9]+/)
+      split(substr($0, RSTART + 5, RLENGTH - 5), r, ",")
+      y = down == "" ? int((r[2] + r[4]) / 2) : r[2] + down
+      point = int((r[1] + r[3]) / 2) " " y
+    }
+    END { print point }'
+}
+# click_child ID [DOWN]: a click there.
+click_child() {
+  local at
+  at=$(child_point "$1" "${2:-}")
+  [ -n "$at" ] || fail "no child $1 to click"
+  # shellcheck disable=SC2086
+  xdotool mousemove $at click 1
+  sleep 0.3
+}
+type_text() {
+  xdotool type --delay 25 "$1"
+  sleep 0.3
+}
+press() {
+  xdotool key "$@"
+  sleep 0.3
+}
+shoot() {
+  import -window "$win" "$shots/$1.png" 2>/dev/null || fail "no screenshot $1"
+}
+# list_items ID: the items of the list or combo box with that identifier, one a line.
+list_items() {
+  windows | awk -v id="$1" '
+    $1 == "child" { inside = ($2 == id) }
+    inside && $1 == "item" { sub(/^ *item /, ""); print }'
+}
+# masked TEXT: the row as the list shows it at the first position: two characters, then
+# one star for each character more.
+masked() {
+  local text=$1 i
+  printf '%s' "${text:0:2}"
+  for ((i = 2; i < ${#text}; i++)); do printf '*'; done
+}
+has() { windows | grep -qF -- "$1"; }
+expect_shown() { has "$1" || fail "not shown: $1"; }
+expect_hidden() { ! has "$1" || fail "shown: $1"; }
+# login PASSWORD: types into the login dialog and confirms.
+login() {
+  need_window "$login_title"
+  click_child 1006
+  [ -n "$1" ] && type_text "$1"
+  press Return
+}
+# message TEXT: the box titled with the program's name says TEXT; it is confirmed.
+message() {
+  need_window "$box_title"
+  expect_shown "Static \"$1\""
+  press Return
+}
+# cli DIR INPUT ARGS...: zelto-cli on DIR's key file with INPUT on standard input.
+cli() {
+  local dir=$1 input=$2
+  shift 2
+  printf '%s' "$input" | wine "$cli" --file "Z:$dir/Zelto.xml" "$@" >/dev/null 2>&1 ||
+    fail "zelto-cli $*"
+}
+fresh_folder() {
+  local dir="$work/$1"
+  mkdir -p "$dir"
+  cp "$zelto" "$dir/Zelto.exe"
+  echo "$dir"
+}
+
+# --- scenarios -----------------------------------------------------------------------
+
+step="first start: the master password is set and the key file written"
+first=$(fresh_folder first)
+start "$first"
+need_window "$setpw_title"
+shoot e2e-set-master-password
+click_child 124
+type_text "$password"
+press Tab
+type_text "$password"
+press Return
+need_window "$login_title"
+[ -f "$first/Zelto.xml" ] || fail "no Zelto.xml after the first start"
+grep -q "<verify>" "$first/Zelto.xml" || fail "the new key file has no verify value"
+automatic_prompt=$(windows | grep -o 'child 1005 Static "[^"]*"')
+login "$password"
+need_window "$main_title"
+expect_shown 'item "No keys found!"'
+shoot e2e-main-first-start
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code after closing the main window"
+ok
+
+step="second start: login shows the empty key list"
+cp "$first/Zelto.xml" "$work/key-file-before"
+start "$first"
+login "$password"
+need_window "$main_title"
+expect_shown 'item "No keys found!"'
+expect_shown 'child 136 Static " Ready"'
+expect_shown 'child 130 Button "Edit" '
+windows | grep -q 'child 130 Button "Edit" .* enabled=0' || fail "Edit enabled without a key"
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+cmp -s "$first/Zelto.xml" "$work/key-file-before" || fail "the key file changed"
+ok
+
+step="wrong password"
+start "$first"
+login "Wrong12pw"
+message "ERROR: Incorrect password"
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+cmp -s "$first/Zelto.xml" "$work/key-file-before" || fail "the key file changed"
+ok
+
+step="empty login ends silently"
+start "$first"
+login ""
+finish 20  # a message box would hold the program open
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="seven characters are no password"
+start "$first"
+need_window "$login_title"
+click_child 1006
+type_text "Short7x"
+expect_shown 'child 1 Button "Cancel"'
+press Return
+message "ERROR: invalid password"
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="a password the dialog takes but the cipher does not: over 128 bytes in UTF-8"
+start "$first"
+need_window "$login_title"
+click_child 1006
+# 120 euro signs: 120 characters (the dialog takes up to 127), three bytes each.
+type_text "$(printf '\xe2\x82\xac%.0s' $(seq 1 120))"
+expect_shown 'child 1 Button "OK"'
+press Return
+message "ERROR: failed to set password"
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="cancelled first start writes nothing"
+cancelled=$(fresh_folder cancelled)
+start "$cancelled"
+need_window "$setpw_title"
+press Escape
+need_window "$box_title"
+windows | grep -q 'Static "ERROR: Failed to create default Zelto Xml-File "[^"]*Zelto.xml""' ||
+  fail "no message naming the key file in quotes"
+press Return
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+[ ! -e "$cancelled/Zelto.xml" ] || fail "a key file was written"
+ok
+
+step="keys: masked rows, the filter box, filtering by a label, the selection"
+keys=$(fresh_folder keys)
+cli "$keys" "$password"$'\n'"$password"$'\n' init
+cli "$keys" "$password"$'\n' add Bank --label "money, home" --user ada
+cli "$keys" "$password"$'\n' add Mail --label "work, home"
+cli "$keys" "$password"$'\n' add Office --label "Work"
+cli "$keys" "$password"$'\n' add Post
+cli "$keys" "$password"$'\n' settings --show-selected 30
+start "$keys"
+login "$password"
+need_window "$main_title"
+list_items 121 >"$work/rows"
+printf '"%s"\n' "$(masked "Bank (money, home)")" "$(masked "Mail (work, home)")" \
+  "$(masked "Office (Work)")" "$(masked "Post")" >"$work/rows-expected"
+cmp -s "$work/rows" "$work/rows-expected" || fail "rows: $(tr '\n' ' ' <"$work/rows")"
+list_items 146 | tr '\n' ' ' >"$work/labels"
+[ "$(cat "$work/labels")" = '"" "money" "home" "work" "Work" ' ] ||
+  fail "filter box: $(cat "$work/labels")"
+shoot e2e-main-filled
+# The filter box: a click gives it the focus (and opens it), Escape closes it again; then
+# the arrow key walks down to "work".
+click_child 146
+press Escape
+for i in 1 2 3 4 5 6; do
+  list_items 146 | grep -qx '"work" selected' && break
+  press Down
+done
+list_items 146 | grep -qx '"work" selected' || fail "could not choose the label work"
+[ "$(list_items 121)" = "\"$(masked "Mail (work, home)")\"" ] ||
+  fail "filtered rows: $(list_items 121 | tr '\n' ' ')"
+click_child 121 10  # the first row
+expect_shown 'child 136 Static " Key "Mail" selected"'
+windows | grep -q 'child 132 Button "Copy Password" .* enabled=1' || fail "Copy Password stays off"
+shoot e2e-main-filtered
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="German key file: login and main window speak German"
+german=$(fresh_folder german)
+cp "$keys/Zelto.xml" "$german/Zelto.xml"
+cli "$german" "$password"$'\n' settings --language Deutsch
+start "$german"
+need_window "$login_title"
+expect_shown 'child 1005 Static "Bitte Passwort eingeben"'
+login "$password"
+need_window "$main_title"
+expect_shown 'child 131 Button "Benutzer kopieren"'
+expect_shown 'child 136 Static " Bereit"'
+shoot e2e-main-german
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="older key file: converted at start by the converter inside Zelto.exe"
+old=$(fresh_folder legacy)
+cp "$legacy_fixture" "$old/Zelto.xml"
+start "$old"
+need_window "$login_title"
+# Its language is not applied before the password is known.
+expect_shown "$automatic_prompt"
+login "legacy password"
+need_window "$main_title"
+rows=$(list_items 121 | wc -l)
+[ "$rows" -ge 2 ] || fail "the converted keys are not listed ($rows rows)"
+expect_hidden 'item "No keys found!"'
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+grep -q "<version>" "$old/Zelto.xml" || fail "Zelto.xml is not in the current format"
+grep -q "encrypted" "$old/Zelto.xml" && fail "Zelto.xml still holds the older format"
+backup=$(ls "$old"/Zelto.backup.*.xml 2>/dev/null | head -n 1)
+[ -n "$backup" ] || fail "no backup of the older file"
+cmp -s "$backup" "$legacy_fixture" || fail "the backup is not the older file"
+[ ! -e "$old/ZeltoPre.exe" ] && [ ! -e "$old/ZeltoPre.xml" ] || fail "converter files left behind"
+ok
+
+printf '%d scenarios passed\n' "$passed"
