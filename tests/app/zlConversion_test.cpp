@@ -12,11 +12,8 @@
 #include "app/zlTexts.h"
 #include "model/zlVerify.h"
 #include "support/legacy_fixture.h"
+#include "support/program_files.h"
 #include "support/test_util.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#endif
 
 using namespace Zelto;
 using dunmar::dm_string;
@@ -32,21 +29,11 @@ std::string narrow(const dm_string& text) {
 class Conversion : public ::testing::Test {
   protected:
     void SetUp() override {
-#ifdef _WIN32
-        zlSetInstance(GetModuleHandleW(nullptr));
-#endif
-        zlLocalTime t;
-        t.year = 2026;
-        t.month = 3;
-        t.day = 9;
-        t.millisecond = 815;
-        files = zlFileSet::in(ztest::widePath(dir.path() / ""), t);
+        files = ztest::programFilesIn(dir);
         legacyBytes = ztest::readBytes(ztest::converterData("Legacy.xml"));
         ztest::writeBytes(keyFile, legacyBytes);
     }
-    void TearDown() override {
-        zlSetLanguage(zlLanguageAuto);
-    }
+    void TearDown() override { zlSetLanguage(zlLanguageAuto); }
 
     int readWithConversion(const char* password) {
         file.set_pass_phrase(password);

@@ -10,11 +10,8 @@
 #include "model/zlFileFormat.h"
 #include "model/zlVerify.h"
 #include "support/legacy_fixture.h"
+#include "support/program_files.h"
 #include "support/test_util.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#endif
 
 using namespace Zelto;
 using dunmar::dm_string;
@@ -31,28 +28,14 @@ std::string n(const dm_string& text) {
 
 class StartupRead : public ::testing::Test {
   protected:
-    void SetUp() override {
-#ifdef _WIN32
-        zlSetInstance(GetModuleHandleW(nullptr));
-#endif
-        zlLocalTime t;
-        t.year = 2026;
-        t.month = 3;
-        t.day = 9;
-        t.millisecond = 815;
-        files = zlFileSet::in(ztest::widePath(dir.path() / ""), t);
-    }
+    void SetUp() override { files = ztest::programFilesIn(dir); }
 
     bool read(const char* password) {
         file.set_pass_phrase(password);
         return zlReadKeyFileWithConversion(file, files, dm_utf8_str(password), detail);
     }
-    void write(const std::string& text) {
-        ztest::writeBytes(dir / "Zelto.xml", text);
-    }
-    std::string skeleton() const {
-        return zlSkeletonText(zlMakeVerifyValue(kPassword)).str();
-    }
+    void write(const std::string& text) { ztest::writeBytes(dir / "Zelto.xml", text); }
+    std::string skeleton() const { return zlSkeletonText(zlMakeVerifyValue(kPassword)).str(); }
 
     ztest::TempDir dir;
     fs::path backup = dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml";
