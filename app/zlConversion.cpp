@@ -41,7 +41,8 @@ bool writeBack(zlKeyFile& file) {
 
 }  // namespace
 
-bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_string& detail) {
+bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_string& detail,
+                      zlConverterRunner run) {
     detail.clear();
     if (!files.valid()) {
         detail = files.detail;
@@ -52,7 +53,7 @@ bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_st
 
     dm_string runDetail;
     unsigned long exitCode = 0;
-    if (!zlRunConverter(files, password, runDetail, exitCode)) {
+    if (!run(files, password, runDetail, exitCode)) {
         detail = wide("failed to run ZeltoPre.exe (");
         detail.append(runDetail);
         detail.append(wide(") - ("));
@@ -69,10 +70,10 @@ bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_st
 }
 
 int zlReadWithConversion(zlKeyFile& file, const zlFileSet& files, const dm_utf8_str& password,
-                         dm_string& detail) {
+                         dm_string& detail, zlConverterRunner run) {
     detail.clear();
     int result = zlReadFailed;
-    if (zlConvertKeyFile(files, password, detail)) {
+    if (zlConvertKeyFile(files, password, detail, run)) {
         result = file.readFile(files.keyFile);
         if (result == zlReadOk) {
             completeTree(file);

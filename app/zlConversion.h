@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/zlConverterRun.h"
 #include "app/zlFileSet.h"
 #include "core/dm_string.h"
 #include "core/dm_utf8_str.h"
@@ -11,8 +12,9 @@ namespace Zelto {
 // converter on that, keeps the old file as the set's backup and puts the converted copy in
 // its place. The key file is not touched before the converter has succeeded. False with a
 // detail text naming the failed step; for a set without folder, the set's own detail.
+// run is the way the converter runs: its program by default, or in this process.
 bool zlConvertKeyFile(const zlFileSet& files, const dunmar::dm_utf8_str& password,
-                      dunmar::dm_string& detail);
+                      dunmar::dm_string& detail, zlConverterRunner run = zlRunConverter);
 
 // The branch of reading that meets a key file of the older format: converts it, reads the
 // converted file into file, completes its tree and writes it back at once. The result is
@@ -24,6 +26,7 @@ bool zlConvertKeyFile(const zlFileSet& files, const dunmar::dm_utf8_str& passwor
 // keeps the file's own language name. The converted file is already whole on disk, so a
 // failure of that rewrite does not fail the reading.
 int zlReadWithConversion(zlKeyFile& file, const zlFileSet& files,
-                         const dunmar::dm_utf8_str& password, dunmar::dm_string& detail);
+                         const dunmar::dm_utf8_str& password, dunmar::dm_string& detail,
+                         zlConverterRunner run = zlRunConverter);
 
 }  // namespace Zelto

@@ -16,4 +16,12 @@ namespace Zelto {
 bool zlRunConverter(const zlFileSet& files, const dunmar::dm_utf8_str& password,
                     dunmar::dm_string& detail, unsigned long& exitCode);
 
+// The same conversion in this process on every platform, with the same codes: for front
+// ends that carry the converter's code rather than its program.
+bool zlRunConverterInProcess(const zlFileSet& files, const dunmar::dm_utf8_str& password,
+                             dunmar::dm_string& detail, unsigned long& exitCode);
+
+using zlConverterRunner = bool (*)(const zlFileSet&, const dunmar::dm_utf8_str&, dunmar::dm_string&,
+                                   unsigned long&);
+
 }  // namespace Zelto

@@ -92,7 +92,8 @@ int zlcSession::read() {
 
 int zlcSession::readOlderFormat() {
     dunmar::dm_string detail;
-    const int result = zlReadWithConversion(file_, files_, dm_utf8_str(password_), detail);
+    const int result = zlReadWithConversion(file_, files_, dm_utf8_str(password_), detail,
+                                            zlRunConverterInProcess);
     if (result != zlReadOk) {
         // The converter's own answer to a wrong password ends the detail text.
         const std::string reason = zlcPathText(detail);
