@@ -10,6 +10,3 @@ if [ ! -f "$prefix/system.reg" ]; then
   wineserver -w || true
 fi
 [ -f "$prefix/system.reg" ] || { echo "Wine prefix could not be created in $prefix" >&2; exit 1; }
-# One persistent server for the whole run: tests that start together would otherwise race
-# to start it, and a client that loses the race fails with "connection reset by peer".
-wineserver -p || true
