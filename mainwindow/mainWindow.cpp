@@ -127,6 +127,7 @@ bool mainWindow::create(HINSTANCE instance, int showCommand) {
     ShowWindow(made, showCommand);
     UpdateWindow(made);
     localise();
+    dunmar::wndTimer::setProcedure(&mainWindow::timerProc);
     timer_.start(made);
     return IsWindow(made) != FALSE;
 }

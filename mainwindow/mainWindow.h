@@ -8,6 +8,7 @@
 
 #include "core/dm_string.h"
 #include "core/dm_stringlist.h"
+#include "app/zlFileSet.h"
 #include "mainwindow/mainWindowControls.h"
 #include "mainwindow/mainWindowStatus.h"
 #include "model/zlKeyFile.h"
@@ -38,14 +39,26 @@ class mainWindow {
     zlFileItemKey* keyOfRow(int index) const;
     size_t rowCount() const { return rows_.size(); }
 
-    // WM_COMMAND: true when the command was handled.
+    // WM_COMMAND: true when the command was handled. Button and menu commands restart the
+    // timer around them.
     bool onCommand(int notification, int id);
+    // One command of a button, menu item or accelerator; false for an unknown one.
+    bool runCommand(int id);
     // The key list's selection changed: buttons and the status line follow it.
     void onSelectionChange();
     // Another filter label was chosen.
     void onFilterChange();
     // A scroll bar moved to position; only the partial-show bar is one of ours.
     void onScroll(int id, int32_t position);
+
+    // Shrinks the window to a sliver and asks for the master password until it is right;
+    // cancelling ends the program. False when a lock is already running.
+    bool lock();
+    // The one-second timer: pointer movement is activity, then one tick.
+    void onTimer();
+    // One second: the automatic lock, the clipboard clearing, the status countdown.
+    void tick();
+    static void CALLBACK timerProc(HWND window, UINT message, UINT_PTR id, DWORD time);
 
     // Texts of the controls and of the menu bar in the current language, then a new layout.
     void localise();
@@ -58,6 +71,8 @@ class mainWindow {
     dunmar::wndTimer& timer() { return timer_; }
     zlKeyFile& keyFile() { return file_; }
     HFONT font() const { return font_; }
+    bool stayOnTop() const { return stayTop_ != 0; }
+    bool flag() const { return flag_ != 0; }
 
     // The object of a main window, also while it is being created.
     static mainWindow* fromWindow(HWND window);
@@ -75,6 +90,23 @@ class mainWindow {
     void onScrollMessage(WPARAM wParam, LPARAM lParam);
     void fillFilterBox(const dunmar::dm_stringlist& labels);
     int textHeight() const;
+
+    zlFileItemKey* selectedKey() const;
+    void copyField(int typeCode, int fieldText);
+    void openAddress();
+    void editKey(zlFileItemKey* key);
+    void deleteKey();
+    void toggleStayTop();
+    bool showPopup(UINT barItem);
+    void showSettings();
+    void showAbout();
+    void changeMasterPassword();
+    void switchLanguage(int language);
+    void backup();
+    void exportToCloud();
+    void showSaveFailure();
+    zlFileSet fileSet() const;
+    bool askToUnlock();
 
     HWND window_ = nullptr;
     int32_t clientWidth_ = 66;

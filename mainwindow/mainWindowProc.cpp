@@ -69,10 +69,13 @@ LRESULT mainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (dunmar::isTypeAheadCharacter(wParam))
                 controls_->keyList.typeAhead(static_cast<wchar_t>(wParam));
             return DefWindowProcW(window, message, wParam, lParam);
-        case WM_COMMAND:
-            if (onCommand(HIWORD(wParam), LOWORD(wParam)))
+        case WM_COMMAND: {
+            // An accelerator reports 1 without a control; it is a command like a menu choice.
+            const bool accelerator = HIWORD(wParam) == 1 && lParam == 0;
+            if (onCommand(accelerator ? kNotifyClicked : HIWORD(wParam), LOWORD(wParam)))
                 return 0;
             return DefWindowProcW(window, message, wParam, lParam);
+        }
         case WM_HSCROLL:
         case WM_VSCROLL:
             if (lParam && reinterpret_cast<HWND>(lParam) == controls_->partialShow.handle()) {

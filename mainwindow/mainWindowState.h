@@ -16,9 +16,24 @@ struct mainWindowState {
     int32_t minTrackWidth = kMinTrackWidth;
     int32_t minTrackHeight = kMinTrackHeight;
     int32_t partialPosition = kInitialPartialPosition;
+
+    // Set around work that pumps messages (the master password change): no tick then.
+    bool paused = false;
+    // A lock is running; the tick does not start another.
+    bool locked = false;
 };
 
 mainWindowState& mainWindowGlobals();
+
+// Where the tick reads the pointer position (GetCursorPos unless replaced) and how the
+// lock ends the program when its login is cancelled (ExitProcess unless replaced).
+// Process-wide; null restores the system's.
+using cursorReader = BOOL(WINAPI*)(LPPOINT position);
+using processEnder = void(WINAPI*)(UINT exitCode);
+void setCursorReader(cursorReader reader);
+void setProcessEnder(processEnder ender);
+BOOL readCursor(POINT& position);
+void endProcess(UINT exitCode);
 
 // The background of the main window's class and of its static texts; made on first use,
 // alive to the end of the process.

@@ -5,6 +5,7 @@
 #include "dialogs/DlgLogIn.h"
 #include "dialogs/dialogText.h"
 #include "model/zlVerify.h"
+#include "res/resource.h"
 #include "ui/idleCounters.h"
 #include "ui/mainFont.h"
 
@@ -75,11 +76,16 @@ dm_utf8_str zlApp::askPassword() {
 }
 
 int zlApp::runMessageLoop() {
+    // Alt+? and Alt+/ open the about dialog.
+    HACCEL accelerators = LoadAcceleratorsW(instance_, MAKEINTRESOURCEW(IDC_ZELTO));
     MSG message = {};
     BOOL got;
     while ((got = GetMessageW(&message, nullptr, 0, 0)) != 0) {
         if (got == -1)
             break;
+        HWND main = window_.window();
+        if (accelerators && main && TranslateAcceleratorW(main, accelerators, &message))
+            continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

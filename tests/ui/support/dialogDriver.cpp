@@ -68,7 +68,63 @@ BOOL CALLBACK findBox(HWND window, LPARAM param) {
     return TRUE;
 }
 
+struct ModalDriver {
+    std::vector<DialogStep> steps;
+    size_t next = 0;
+    int idleTicks = 0;
+    bool timedOut = false;
+};
+
+ModalDriver* activeModal = nullptr;
+
+BOOL CALLBACK findFrontModal(HWND window, LPARAM param) {
+    wchar_t cls[32] = {};
+    GetClassNameW(window, cls, 32);
+    if (lstrcmpW(cls, L"#32770") == 0 && IsWindowVisible(window) && IsWindowEnabled(window)) {
+        *reinterpret_cast<HWND*>(param) = window;
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CALLBACK onModalTick(HWND, UINT, UINT_PTR, DWORD) {
+    if (!activeModal)
+        return;
+    HWND front = frontModal();
+    if (activeModal->next < activeModal->steps.size()) {
+        if (!front)
+            return;
+        const size_t index = activeModal->next++;
+        activeModal->steps[index](front);
+        return;
+    }
+    if (front && ++activeModal->idleTicks > kGraceTicks) {
+        activeModal->timedOut = true;
+        EndDialog(front, IDCANCEL);
+    }
+}
+
 }  // namespace
+
+HWND frontModal() {
+    HWND found = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), &findFrontModal, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+bool runWithModals(const std::function<void()>& action, std::vector<DialogStep> steps) {
+    ModalDriver driver;
+    driver.steps = std::move(steps);
+    activeModal = &driver;
+    const UINT_PTR timer = SetTimer(nullptr, 0, kTickMs, &onModalTick);
+    action();
+    KillTimer(nullptr, timer);
+    activeModal = nullptr;
+    MSG message;
+    while (PeekMessageW(&message, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE)) {
+    }
+    return !driver.timedOut && driver.next == driver.steps.size();
+}
 
 INT_PTR runDriven(dunmar::DlgBase& dialog, std::vector<DialogStep> steps) {
     Driver driver;

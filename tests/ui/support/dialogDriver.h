@@ -23,6 +23,15 @@ constexpr INT_PTR kDriverTimeout = 0x7ABC;
 // the result is kDriverTimeout.
 INT_PTR runDriven(dunmar::DlgBase& dialog, std::vector<DialogStep> steps);
 
+// Runs action, which opens modal windows (dialogs, message boxes) one after another, and
+// performs the steps one per tick, each on the modal window in front at that moment; a tick
+// without one waits. Windows still open well after the last step are cancelled; the result
+// is then false.
+bool runWithModals(const std::function<void()>& action, std::vector<DialogStep> steps);
+
+// The enabled, visible dialog-class window of this thread nearest the top, or null.
+HWND frontModal();
+
 // Acting as a user would.
 void setText(HWND dialog, int id, const std::wstring& text);    // WM_SETTEXT
 void typeChars(HWND dialog, int id, const std::wstring& text);  // WM_CHAR each, at the end

@@ -1,0 +1,109 @@
+#include "app/zlFileSet.h"
+#include "app/zlKeyFileStore.h"
+#include "app/zlMasterPassword.h"
+#include "app/zlTexts.h"
+#include "dialogs/DlgAbout.h"
+#include "dialogs/DlgFileCreated.h"
+#include "dialogs/DlgSetMasterPw.h"
+#include "dialogs/DlgSettings.h"
+#include "mainwindow/mainWindow.h"
+#include "mainwindow/mainWindowState.h"
+#include "mainwindow/mainWindowTexts.h"
+#include "model/zlVerify.h"
+
+namespace Zelto {
+
+using dunmar::dm_string;
+
+namespace {
+
+constexpr int32_t kBackupFailedTicks = 60;
+constexpr int32_t kBackupDoneTicks = 20;
+
+void showMessage(int text) {
+    MessageBoxW(nullptr, zlText(text), zlText(zlTextAppName), MB_OK);
+}
+
+// The part of path after its last separator.
+dm_string fileNameOf(const dm_string& path) {
+    const std::wstring& text = path.str();
+    const size_t cut = text.find_last_of(L"\\/");
+    return dm_string(cut == std::wstring::npos ? text : text.substr(cut + 1));
+}
+
+}  // namespace
+
+// The program's files lie beside the key file: backups go where the key file is.
+zlFileSet mainWindow::fileSet() const {
+    const std::wstring& path = file_.path().str();
+    const size_t cut = path.find_last_of(L"\\/");
+    if (cut == std::wstring::npos)
+        return zlFileSet::ofThisProgram();
+    return zlFileSet::in(dm_string(path.substr(0, cut + 1)), zlNow());
+}
+
+void mainWindow::showSettings() {
+    DlgSettings dialog(instance_, window_, file_);
+    dialog.run();
+}
+
+void mainWindow::showAbout() {
+    DlgAbout dialog(instance_, window_);
+    dialog.run();
+}
+
+void mainWindow::changeMasterPassword() {
+    DlgSetMasterPw dialog(instance_, window_);
+    if (dialog.run() != IDOK || dialog.password().empty())
+        return;
+    const dunmar::dm_utf8_str password = dialog.password().to_utf8();
+    // Re-enciphering pumps messages; no lock may start in the middle of it.
+    mainWindowState& state = mainWindowGlobals();
+    const bool wasPaused = state.paused;
+    state.paused = true;
+    const int changed =
+        zlChangeMasterPassword(file_, password, zlMakeVerifyValue(password), fileSet());
+    fill();
+    state.paused = wasPaused;
+    showMessage(changed == zlChangeDone ? textChangeDone : textChangeFailed);
+}
+
+void mainWindow::switchLanguage(int language) {
+    zlSetLanguage(language);
+    localise();
+    if (zlSaveKeyFile(file_) != zlSaved)
+        showSaveFailure();
+}
+
+void mainWindow::backup() {
+    const zlFileSet files = fileSet();
+    dm_string path;
+    const int result = zlMakeBackup(file_.path(), files, path);
+    if (result != zlBackupDone) {
+        dm_string reason = files.detail;
+        if (reason.empty()) {
+            reason = dm_string(L"failed to copy file \"");
+            reason.append(fileNameOf(file_.path()));
+            reason.append(L"\" to \"");
+            reason.append(fileNameOf(files.backup));
+            reason.append(L"\"");
+        }
+        status_.show(kBackupFailedTicks,
+                     {L"ERROR: ", zlText(textBackupFailed), L" (", reason.c_str(), L")"});
+        return;
+    }
+    status_.show(kBackupDoneTicks, {zlText(textBackupDone), L" (", path.c_str(), L")"});
+    DlgFileCreated dialog(instance_, window_, path);
+    dialog.run();
+}
+
+// The tree was changed but the file could not be written: the change stays in memory and
+// goes out with the next save, and the user is told so.
+void mainWindow::showSaveFailure() {
+    dm_string text(L"ERROR: failed to save '");
+    text.append(fileNameOf(file_.path()));
+    text.append(L"'");
+    status_.show(0, {text.c_str()});
+}
+
+}  // namespace Zelto

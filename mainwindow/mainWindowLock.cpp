@@ -1,0 +1,73 @@
+#include "dialogs/DlgLogIn.h"
+#include "mainwindow/mainWindow.h"
+#include "mainwindow/mainWindowState.h"
+#include "model/zlVerify.h"
+#include "ui/idleCounters.h"
+#include "ui/messagePump.h"
+
+namespace Zelto {
+
+namespace {
+
+constexpr int32_t kLockedWidth = 10;
+constexpr int32_t kMinimumLockedHeight = 4;
+constexpr UINT kMoveFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+
+}  // namespace
+
+// Asks for the master password until it is right. False when the user gave up, which ends
+// the program; a login that cannot even be shown ends it too, or the lock could never end.
+bool mainWindow::askToUnlock() {
+    for (;;) {
+        DlgLogIn login(instance_, window_);
+        const INT_PTR result = login.run();
+        if (result == IDCANCEL || result == -1) {
+            endProcess(0);
+            return false;
+        }
+        if (result != IDOK)
+            continue;
+        const dunmar::dm_utf8_str password = login.password().to_utf8();
+        if (password.empty())
+            return true;
+        if (zlSetPassword(file_, password.c_str()) == 0 &&
+            zlCheckPassword(file_) == zlPasswordRight)
+            return true;
+    }
+}
+
+bool mainWindow::lock() {
+    mainWindowState& state = mainWindowGlobals();
+    if (state.locked)
+        return false;
+    state.locked = true;
+
+    if (instance_ && window_ && IsWindow(window_)) {
+        // Only a sliver of the title bar stays on screen while the login is up.
+        const int32_t savedWidth = state.minTrackWidth;
+        const int32_t savedHeight = state.minTrackHeight;
+        const int caption = GetSystemMetrics(SM_CYCAPTION);
+        state.minTrackWidth = kLockedWidth;
+        state.minTrackHeight = caption > kMinimumLockedHeight ? caption : kMinimumLockedHeight;
+        RECT before = {0, 0, 0, 0};
+        GetWindowRect(window_, &before);
+        SetWindowPos(window_, nullptr, before.left, before.top, state.minTrackWidth,
+                     state.minTrackHeight, kMoveFlags);
+        dunmar::pumpWindowMessages(window_);
+
+        if (askToUnlock()) {
+            state.minTrackWidth = savedWidth;
+            state.minTrackHeight = savedHeight;
+            SetWindowPos(window_, nullptr, before.left, before.top, before.right - before.left,
+                         before.bottom - before.top, kMoveFlags);
+            dunmar::pumpWindowMessages(window_);
+        }
+    }
+
+    state.locked = false;
+    dunmar::idleTime().reset();
+    timer_.start(window_);
+    return true;
+}
+
+}  // namespace Zelto

@@ -1,0 +1,173 @@
+// The export command of the real main window against the table service emulator: the data
+// box comes before any traffic, the record arrives whole, failures go to the status line.
+#include <cstdlib>
+
+#include "cloud/cloudTestSupport.h"
+#include "cloud/tableReader.h"
+#include "cloud/zlCloudConfig.h"
+#include "commandFixture.h"
+#include "core/dm_guid.h"
+
+using namespace ztest;
+using namespace Zelto;
+
+namespace {
+
+std::string uniqueText() {
+    dunmar::dm_string guid;
+    dunmar::dm_new_guid_text(guid);
+    return guid.to_utf8().str();
+}
+
+std::string utf8(const std::wstring& text) {
+    return dunmar::dm_string(text.c_str()).to_utf8().str();
+}
+
+// Sets the connection string the program reads for one test, and puts the old one back.
+class ConnectionScope {
+  public:
+    explicit ConnectionScope(const std::string& value) {
+        if (const char* old = std::getenv(zlCloudConnectionStringVariable))
+            old_ = old;
+        _putenv_s(zlCloudConnectionStringVariable, value.c_str());
+    }
+    ~ConnectionScope() { _putenv_s(zlCloudConnectionStringVariable, old_.c_str()); }
+
+  private:
+    std::string old_;
+};
+
+class WindowExport : public CommandTest {
+  protected:
+    void SetUp() override {
+        CommandTest::SetUp();
+        const char* value = std::getenv(zlCloudConnectionStringVariable);
+        if (value == nullptr || value[0] == '\0') {
+            const char* ci = std::getenv("CI");
+            if (ci != nullptr && std::string(ci) == "true")
+                FAIL() << zlCloudConnectionStringVariable << " is not set under CI";
+            GTEST_SKIP() << "no table service: run under scripts/test.sh";
+        }
+        ASSERT_TRUE(zlParseConnectionString(value, account).ok());
+        transport = zlNewPlatformTransport();
+        lastName = "Hopper-" + uniqueText();
+        email = "grace+" + uniqueText() + "@example.org";
+        setUser("Grace", lastName, email);
+    }
+    void setUser(const std::string& first, const std::string& last, const std::string& mail) {
+        settings->setUserFirstName(dunmar::dm_utf8_str(first.c_str()), true);
+        settings->setUserLastName(dunmar::dm_utf8_str(last.c_str()), true);
+        settings->setUserEmail(dunmar::dm_utf8_str(mail.c_str()), true);
+    }
+    void keys(int count) {
+        for (int i = 0; i < count; ++i) {
+            const std::string name = "account " + std::to_string(i);
+            ASSERT_NE(nullptr, addKey(name.c_str(), "label"));
+        }
+        save();
+        open();
+    }
+    ReadBack read() { return readEntity(*transport, account, lastName, email); }
+
+    // Runs the command; every box is looked at and closed, the record read while the first
+    // one is open.
+    bool exportWithBoxes() {
+        boxes.clear();
+        DialogStep lookAndClose = [this](HWND box) {
+            if (boxes.empty())
+                whileDataBox = read();
+            std::vector<std::wstring> texts = staticTexts(box);
+            boxes.push_back({textOf(box), texts});
+            SendMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        };
+        return runWithModals([&] { command(IDM_EXPORT_CLOUD); }, {lookAndClose, lookAndClose}) ||
+               boxes.size() < 2;
+    }
+    bool boxShows(size_t index, const std::wstring& title, const std::string& text) const {
+        if (index >= boxes.size() || boxes[index].first != title)
+            return false;
+        for (const std::wstring& shown : boxes[index].second)
+            if (utf8(shown) == text)
+                return true;
+        return false;
+    }
+
+    zlStorageAccount account;
+    std::unique_ptr<zlHttpTransport> transport;
+    std::string lastName;
+    std::string email;
+    std::vector<std::pair<std::wstring, std::vector<std::wstring>>> boxes;
+    ReadBack whileDataBox;
+};
+
+TEST_F(WindowExport, TheKeyFileArrivesWholeAfterTheDataBoxAndASecondExportReplacesIt) {
+    keys(3);
+    const std::string text = file.buildFileText(zlLanguageNameForFile()).str();
+    exportWithBoxes();
+    ASSERT_EQ(2u, boxes.size()) << statusText();
+    EXPECT_TRUE(boxShows(0, L"xmlData", text));
+    EXPECT_EQ(404, whileDataBox.status) << "nothing was sent while the box was open";
+    EXPECT_TRUE(boxShows(1, L"Zelto Cloud Account", "Export was successful"));
+    EXPECT_EQ(L" Ready", statusText());
+
+    ReadBack back = read();
+    ASSERT_EQ(200, back.status);
+    EXPECT_EQ("Grace", back.entity.value("FirstName", "<none>"));
+    EXPECT_EQ(settings->verify.str(), back.entity.value("Verify", "<none>"));
+    EXPECT_TRUE(text == back.joinedData());
+
+    setUser("Amazing Grace", lastName, email);
+    exportWithBoxes();
+    back = read();
+    ASSERT_EQ(200, back.status);
+    EXPECT_EQ("Amazing Grace", back.entity.value("FirstName", "<none>"));
+}
+
+TEST_F(WindowExport, FiveHundredKeysTravelInSeveralParts) {
+    keys(500);
+    const std::string text = file.buildFileText(zlLanguageNameForFile()).str();
+    exportWithBoxes();
+    ASSERT_EQ(2u, boxes.size()) << statusText();
+    const ReadBack back = read();
+    ASSERT_EQ(200, back.status);
+    EXPECT_GT(back.entity.value("DataParts", 0), 1);
+    EXPECT_EQ(text.size(), back.joinedData().size());
+    EXPECT_TRUE(text == back.joinedData());
+}
+
+TEST_F(WindowExport, FailuresAreToldOnTheStatusLineWithoutASuccessBox) {
+    keys(1);
+    {
+        const std::string wrongKey =
+            "d3JvbmcgYWNjb3VudCBrZXkgZm9yIHRoZSB0ZXN0cyBvZiB0aGUgY2xvdWQgZXhwb3J0IQ==";
+        ConnectionScope scope("DefaultEndpointsProtocol=http;AccountName=" + account.accountName +
+                              ";AccountKey=" + wrongKey +
+                              ";TableEndpoint=" + account.tableEndpoint);
+        exportWithBoxes();
+        ASSERT_EQ(1u, boxes.size());
+        EXPECT_EQ(L"xmlData", boxes[0].first);
+        EXPECT_EQ(0u, statusText().find(L" ERROR: Cloud export failed: ")) << statusText();
+        EXPECT_NE(std::wstring::npos, statusText().find(L"403")) << statusText();
+        EXPECT_EQ(-1, window->status().ticksLeft());
+    }
+    EXPECT_EQ(404, read().status);
+
+    // Keys the service cannot take are refused before the data box.
+    for (const char* bad : {"grace/hopper@example.org", "grace%41@example.org"}) {
+        setUser("Grace", lastName, bad);
+        exportWithBoxes();
+        EXPECT_TRUE(boxes.empty()) << bad;
+        EXPECT_EQ(0u, statusText().find(L" ERROR: Cloud export failed: ")) << bad;
+    }
+
+    // A file without settings exports nothing and says nothing.
+    Zelto::zlFileItemKeys elsewhere(&file);
+    ASSERT_TRUE(file.root().moveChild(file.root().indexOfChild(settings), &elsewhere));
+    settings = nullptr;
+    window->status().show(0, {L"before"});
+    exportWithBoxes();
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(L" before", statusText());
+}
+
+}  // namespace

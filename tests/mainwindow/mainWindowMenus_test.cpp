@@ -1,0 +1,228 @@
+// The menu bar's popups and what their choices do, the accelerators, and the timer
+// restarted around every command.
+#include <filesystem>
+
+#include "commandFixture.h"
+#include "ui/idleCounters.h"
+
+using namespace ztest;
+using namespace Zelto;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+std::wstring menuBarText(HWND window, UINT id) {
+    wchar_t text[64] = {};
+    GetMenuStringW(GetMenu(window), id, text, 64, MF_BYCOMMAND);
+    return text;
+}
+
+std::vector<std::filesystem::path> backupsIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (entry.path().filename().string().rfind("Zelto.backup.", 0) == 0)
+            found.push_back(entry.path());
+    return found;
+}
+
+class MenuCommands : public CommandTest {
+  protected:
+    void twoKeys() {
+        addKeys({{"Bank", "money"}, {"Mail", "work"}});
+        save();
+        open();
+    }
+};
+
+TEST_F(MenuCommands, PopupsListTheirItemsInTheCurrentLanguageWithTheLanguageChecked) {
+    twoKeys();
+    const struct {
+        UINT bar;
+        std::vector<UINT> ids;
+        std::vector<std::wstring> english;
+        std::vector<std::wstring> german;
+    } popups[] = {
+        {IDM_FILE, {IDM_BACKUP, IDM_EXIT}, {L"Backup", L"Exit"}, {L"Backup", L"Beenden"}},
+        {IDM_SETTINGS,
+         {IDM_OPTIONS, IDM_SET_MASTER_PW},
+         {L"Options", L"Set Master Password"},
+         {L"Optionen", L"Master Passwort setzen"}},
+        {IDM_HELP, {IDM_ABOUT}, {L"About"}, {L"\u00DCber"}},
+        {IDM_LANGUAGE,
+         {IDM_ENGLISH, IDM_DEUTSCH},
+         {L"English", L"Deutsch"},
+         {L"English", L"Deutsch"}},
+    };
+    for (int language : {zlLanguageEnglish, zlLanguageGerman}) {
+        zlSetLanguage(language);
+        for (const auto& popup : popups) {
+            menu(popup.bar, 0);  // looked at, nothing chosen
+            const auto& texts = language == zlLanguageEnglish ? popup.english : popup.german;
+            ASSERT_EQ(popup.ids.size(), lastPopup().size()) << popup.bar;
+            for (size_t i = 0; i < popup.ids.size(); ++i) {
+                EXPECT_EQ(popup.ids[i], lastPopup()[i].id);
+                EXPECT_EQ(texts[i], lastPopup()[i].text);
+            }
+        }
+        EXPECT_EQ(language == zlLanguageEnglish, lastPopup()[0].checked);
+        EXPECT_EQ(language == zlLanguageGerman, lastPopup()[1].checked);
+    }
+    // No language chosen yet counts as English.
+    zlSetLanguage(zlLanguageAuto);
+    menu(IDM_LANGUAGE, 0);
+    EXPECT_TRUE(lastPopup()[0].checked);
+    EXPECT_FALSE(lastPopup()[1].checked);
+    EXPECT_TRUE(IsWindow(main())) << "choosing nothing does nothing";
+}
+
+TEST_F(MenuCommands, LanguageSwitchRelabelsWindowAndMenuAndIsSavedInTheFile) {
+    twoKeys();
+    menu(IDM_LANGUAGE, IDM_DEUTSCH);
+    EXPECT_EQ(zlLanguageGerman, zlGetLanguage());
+    EXPECT_EQ(L"Datei", menuBarText(main(), IDM_FILE));
+    EXPECT_EQ(L"Sprache", menuBarText(main(), IDM_LANGUAGE));
+    EXPECT_EQ(L"Neu", textOf(child(idNewButton)));
+    EXPECT_EQ(L" Bereit", statusText());
+    EXPECT_NE(std::string::npos, bytesOnDisk().find("<language>Deutsch</language>"));
+
+    menu(IDM_LANGUAGE, IDM_ENGLISH);
+    EXPECT_EQ(L"File", menuBarText(main(), IDM_FILE));
+    EXPECT_EQ(L"Copy Password", textOf(child(idCopyPassword)));
+    EXPECT_NE(std::string::npos, bytesOnDisk().find("<language>English</language>"));
+    EXPECT_EQ((Names{"Bank", "Mail"}), namesOnDisk());
+}
+
+TEST_F(MenuCommands, OptionsAreSavedByTheSettingsDialog) {
+    twoKeys();
+    ASSERT_TRUE(menuWith(
+        IDM_SETTINGS, IDM_OPTIONS,
+        {enter(IDC_SETTINGS_AUTOLOCK, L"45"), enter(IDC_SETTINGS_CLIPBOARD, L"12"), answer(IDOK)}));
+    EXPECT_EQ(45, settings->autolock);
+    EXPECT_NE(std::string::npos, bytesOnDisk().find("<autolock>45</autolock>"));
+    EXPECT_NE(std::string::npos, bytesOnDisk().find("<autoClearClipboard>12</autoClearClipboard>"));
+}
+
+TEST_F(MenuCommands, MasterPasswordChangeReenciphersEverythingAndSaysSo) {
+    twoKeys();
+    const std::string before = bytesOnDisk();
+    std::wstring title;
+    std::vector<std::wstring> texts;
+    ASSERT_TRUE(
+        menuWith(IDM_SETTINGS, IDM_SET_MASTER_PW,
+                 {enter(IDC_SETPW_PASSWORD, L"Newpass99"), enter(IDC_SETPW_VERIFY, L"Newpass99"),
+                  answer(IDOK), look(title, texts), answer(IDOK)}));
+    EXPECT_EQ(L"Zelto", title);
+    EXPECT_TRUE(contains(texts, L"SUCCESS: master password was changed !"));
+    EXPECT_EQ((Names{"Bank", "Mail"}), namesOnDisk("Newpass99"));
+    EXPECT_TRUE(mainWindowGlobals().paused) << "the pause flag is put back as it was";
+
+    // The old file was kept as a backup first.
+    const auto backups = backupsIn(dir.path());
+    ASSERT_EQ(1u, backups.size());
+    EXPECT_EQ(before, readBytes(backups[0]));
+    // The list still reads: the window shows the re-read tree.
+    selectRow(1);
+    EXPECT_EQ(L" Key \"Mail\" selected", statusText());
+
+    // A cancelled dialog changes nothing and asks nothing.
+    const std::string now = bytesOnDisk();
+    ASSERT_TRUE(menuWith(IDM_SETTINGS, IDM_SET_MASTER_PW, {answer(IDCANCEL)}));
+    EXPECT_EQ(now, bytesOnDisk());
+}
+
+TEST_F(MenuCommands, AFailedMasterPasswordChangeIsToldAndLeavesTheFile) {
+    twoKeys();
+    // Without a file on disk the backup, and so the change, fails.
+    std::filesystem::remove(path);
+    std::vector<std::wstring> texts;
+    std::wstring title;
+    ASSERT_TRUE(
+        menuWith(IDM_SETTINGS, IDM_SET_MASTER_PW,
+                 {enter(IDC_SETPW_PASSWORD, L"Newpass99"), enter(IDC_SETPW_VERIFY, L"Newpass99"),
+                  answer(IDOK), look(title, texts), answer(IDOK)}));
+    EXPECT_TRUE(contains(texts, L"ERROR: failed to change the master password !"));
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_EQ(std::string(kShortPass), file.pass_phrase());
+}
+
+TEST_F(MenuCommands, BackupWritesACopyTellsWhereAndShowsTheFileCreatedDialog) {
+    twoKeys();
+    std::wstring title;
+    std::vector<std::wstring> texts;
+    ASSERT_TRUE(menuWith(IDM_FILE, IDM_BACKUP, {look(title, texts), answer(IDOK)}));
+    const auto backups = backupsIn(dir.path());
+    ASSERT_EQ(1u, backups.size());
+    EXPECT_EQ(bytesOnDisk(), readBytes(backups[0]));
+    const std::wstring backupPath = widePath(backups[0]).str();
+    EXPECT_EQ(L" Backup of 'Zelto.xml' done (" + backupPath + L")", statusText());
+    EXPECT_EQ(20, window->status().ticksLeft());
+    EXPECT_TRUE(contains(texts, backupPath)) << "the dialog names the copy";
+
+    std::filesystem::remove(path);
+    ASSERT_TRUE(menuWith(IDM_FILE, IDM_BACKUP, {}));
+    EXPECT_EQ(0u, statusText().find(L" ERROR: Failed to backup 'Zelto.xml' (failed to copy file "
+                                    L"\"Zelto.xml\" to \"Zelto.backup."))
+        << statusText();
+    EXPECT_EQ(60, window->status().ticksLeft());
+    EXPECT_EQ(1u, backupsIn(dir.path()).size());
+}
+
+TEST_F(MenuCommands, AboutComesFromTheMenuAndFromBothAccelerators) {
+    twoKeys();
+    std::wstring title;
+    std::vector<std::wstring> texts;
+    ASSERT_TRUE(menuWith(IDM_HELP, IDM_ABOUT, {look(title, texts), answer(IDOK)}));
+    EXPECT_EQ(L"Zelto - About", title);
+
+    HACCEL accelerators = LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDC_ZELTO));
+    ASSERT_NE(nullptr, accelerators);
+    for (wchar_t key : {L'?', L'/'}) {
+        title.clear();
+        // Alt with a character arrives as WM_SYSCHAR with the context bit set, while the
+        // thread's key state has Alt down.
+        MSG message = {main(), WM_SYSCHAR, key, 1 << 29, 0, {0, 0}};
+        BYTE keys[256] = {};
+        GetKeyboardState(keys);
+        keys[VK_MENU] = 0x80;
+        SetKeyboardState(keys);
+        bool translated = false;
+        ASSERT_TRUE(runWithModals(
+            [&] { translated = TranslateAcceleratorW(main(), accelerators, &message) != 0; },
+            {look(title, texts), answer(IDOK)}));
+        keys[VK_MENU] = 0;
+        SetKeyboardState(keys);
+        EXPECT_TRUE(translated) << static_cast<char>(key);
+        EXPECT_EQ(L"Zelto - About", title) << static_cast<char>(key);
+    }
+}
+
+TEST_F(MenuCommands, ExitClosesTheWindowAndEndsTheLoop) {
+    twoKeys();
+    HWND before = main();
+    menu(IDM_FILE, IDM_EXIT);
+    EXPECT_FALSE(IsWindow(before));
+    MSG message;
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(0u, message.wParam);
+    EXPECT_FALSE(window->timer().running());
+}
+
+TEST_F(MenuCommands, EveryCommandStartsTheIdleCountsAfresh) {
+    twoKeys();
+    dunmar::idleTime().lock = 17;
+    dunmar::idleTime().clipboard = 4;
+    menu(IDM_HELP, 0);
+    EXPECT_EQ(0, dunmar::idleTime().lock);
+    EXPECT_EQ(0, dunmar::idleTime().clipboard);
+    EXPECT_TRUE(window->timer().running());
+
+    // Selection changes are no commands of their own: they count nothing afresh.
+    dunmar::idleTime().lock = 17;
+    selectRow(0);
+    EXPECT_EQ(17, dunmar::idleTime().lock);
+    // Nor is a command the window does not know handled.
+    EXPECT_FALSE(window->onCommand(0, 4242));
+}
+
+}  // namespace
