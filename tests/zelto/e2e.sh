@@ -92,7 +92,9 @@ windows() { wine "$probe" 2>/dev/null | tr -d '\r'; }
 # that $win names: the middle, or DOWN pixels below its top edge.
 child_point() {
   local title
-  title=$(xdotool getwindowname "$win")
+  # While the main window hides behind a login, X may report either for the login's title:
+  # probe_title names the window outright then.
+  title=${probe_title:-$(xdotool getwindowname "$win")}
   windows | awk -v title="\"$title\"" -v id="$1" -v down="${2:-}" '
     /^window / { inside = index($0, title) > 0 }
     inside && $1 == "child" && $2 == id {
@@ -124,6 +126,10 @@ press() {
 shoot() {
   import -window "$win" "$shots/$1.png" 2>/dev/null || fail "no screenshot $1"
 }
+# The whole display: what anyone looking at the screen would see.
+shoot_screen() {
+  import -window root "$shots/$1.png" 2>/dev/null || fail "no screenshot $1"
+}
 # list_items ID: the items of the list or combo box with that identifier, one a line.
 list_items() {
   windows | awk -v id="$1" '
@@ -138,6 +144,16 @@ masked() {
   for ((i = 2; i < ${#text}; i++)); do printf '*'; done
 }
 has() { windows | grep -qF -- "$1"; }
+# wait_shown TEXT: until the probe shows TEXT, up to 30 s. X keeps windows of closed
+# dialogs under their titles, so a title alone does not tell that a new login is up.
+wait_shown() {
+  local i
+  for i in $(seq 1 60); do
+    has "$1" && return 0
+    sleep 0.5
+  done
+  fail "not shown within 30 s: $1"
+}
 expect_shown() { has "$1" || fail "not shown: $1"; }
 expect_hidden() { ! has "$1" || fail "shown: $1"; }
 # login PASSWORD: types into the login dialog and confirms.
@@ -339,6 +355,71 @@ backup=$(ls "$old"/Zelto.backup.*.xml 2>/dev/null | head -n 1)
 [ -n "$backup" ] || fail "no backup of the older file"
 cmp -s "$backup" "$legacy_fixture" || fail "the backup is not the older file"
 [ ! -e "$old/ZeltoPre.exe" ] && [ ! -e "$old/ZeltoPre.xml" ] || fail "converter files left behind"
+ok
+
+# main_rect: the main window's rectangle as the probe reports it.
+main_rect() {
+  windows | awk '/^window / && index($0, "\"Zelto (2.2.1)\"") { match($0, /rect=[-0-9,]+/); print substr($0, RSTART + 5, RLENGTH - 5) }'
+}
+
+step="lock button: the window hides behind the login, a wrong password asks again"
+cli "$keys" "$password"$'\n' settings --autolock 0
+start "$keys"
+login "$password"
+need_window "$main_title"
+before=$(main_rect)
+click_child 141
+wait_shown 'child 1006 Edit'
+locked=$(main_rect)
+[ "$locked" != "$before" ] || fail "the window kept its size while locked ($locked)"
+shoot_screen e2e-locked
+unlock_title="Zelto (2.2.1) - LogIn"
+probe_title=$unlock_title click_child 1006
+type_text "Wrong12pw"
+press Return
+sleep 1
+wait_shown 'child 1006 Edit'
+probe_title=$unlock_title click_child 1006
+type_text "$password"
+press Return
+for i in $(seq 1 40); do
+  [ "$(main_rect)" = "$before" ] && break
+  sleep 0.5
+done
+[ "$(main_rect)" = "$before" ] || fail "not restored: $(main_rect) instead of $before"
+expect_shown 'child 132 Button "Copy Password"'
+ok
+
+step="Alt+? opens the about dialog; File, Backup through the real popup menu"
+need_window "$main_title"
+press alt+question
+need_window '^Zelto - About$'
+press Return
+need_window "$main_title"
+press F10
+press Return
+press Down
+press Return
+need_window '^Zelto - File created$'
+press Return
+ls "$keys"/Zelto.backup.*.xml >/dev/null 2>&1 || fail "no backup written"
+wait_shown "Backup of 'Zelto.xml' done"
+press alt+F4
+finish 20
+[ "$code" = 0 ] || fail "exit status $code"
+ok
+
+step="automatic lock after six idle seconds; cancelling its login ends the program with 0"
+cli "$keys" "$password"$'\n' settings --autolock 6
+start "$keys"
+login "$password"
+need_window "$main_title"
+# The pointer stays where the login left it: no activity.
+wait_shown 'child 1006 Edit'
+[ "$(main_rect)" != "$before" ] || fail "the window was not hidden by the lock"
+press Escape
+finish 20
+[ "$code" = 0 ] || fail "exit status $code after cancelling the lock"
 ok
 
 printf '%d scenarios passed\n' "$passed"
