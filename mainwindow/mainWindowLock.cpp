@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "dialogs/DlgLogIn.h"
 #include "mainwindow/mainWindow.h"
 #include "mainwindow/mainWindowState.h"
@@ -12,6 +14,24 @@ namespace {
 constexpr int32_t kLockedWidth = 10;
 constexpr int32_t kMinimumLockedHeight = 4;
 constexpr UINT kMoveFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+
+BOOL CALLBACK collectOwned(HWND window, LPARAM param) {
+    auto* found = reinterpret_cast<std::vector<HWND>*>(param);
+    if (IsWindowVisible(window) && GetWindow(window, GW_OWNER) == found->front())
+        found->push_back(window);
+    return TRUE;
+}
+
+// A lock may come while a dialog of the window is open (the edit dialog shows a key in
+// plain text): such windows are hidden until the password was typed again.
+std::vector<HWND> hideOwnedWindows(HWND owner) {
+    std::vector<HWND> found{owner};
+    EnumThreadWindows(GetCurrentThreadId(), &collectOwned, reinterpret_cast<LPARAM>(&found));
+    found.erase(found.begin());
+    for (HWND window : found)
+        ShowWindow(window, SW_HIDE);
+    return found;
+}
 
 }  // namespace
 
@@ -51,6 +71,10 @@ bool mainWindow::lock() {
         state.minTrackHeight = caption > kMinimumLockedHeight ? caption : kMinimumLockedHeight;
         RECT before = {0, 0, 0, 0};
         GetWindowRect(window_, &before);
+        const std::vector<HWND> hidden = hideOwnedWindows(window_);
+        // A dialog of the window may still be running its modal loop; the login would
+        // leave the window enabled under it.
+        const BOOL wasEnabled = IsWindowEnabled(window_);
         SetWindowPos(window_, nullptr, before.left, before.top, state.minTrackWidth,
                      state.minTrackHeight, kMoveFlags);
         dunmar::pumpWindowMessages(window_);
@@ -60,6 +84,10 @@ bool mainWindow::lock() {
             state.minTrackHeight = savedHeight;
             SetWindowPos(window_, nullptr, before.left, before.top, before.right - before.left,
                          before.bottom - before.top, kMoveFlags);
+            for (HWND window : hidden)
+                if (IsWindow(window))
+                    ShowWindow(window, SW_SHOW);
+            EnableWindow(window_, wasEnabled);
             dunmar::pumpWindowMessages(window_);
         }
     }

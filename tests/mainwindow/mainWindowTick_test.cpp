@@ -161,6 +161,29 @@ TEST_F(Tick, AWrongPasswordAsksAgainAndTheRightOneRestoresTheWindow) {
     mainWindowGlobals().locked = false;
 }
 
+TEST_F(Tick, ALockWhileTheEditDialogIsOpenHidesItUntilTheRightPassword) {
+    selectRow(0);
+    HWND edit = nullptr;
+    bool hiddenWhileLocked = false;
+    bool shownAfter = false;
+    bool mainEnabledAfter = true;
+    ASSERT_TRUE(pressWith(idEditButton, {[&](HWND dialog) {
+                                             edit = dialog;
+                                             window->lock();  // as the tick would
+                                         },
+                                         [&](HWND) { hiddenWhileLocked = !IsWindowVisible(edit); },
+                                         login(L"8bytes!!"),
+                                         [&](HWND) {
+                                             shownAfter = IsWindowVisible(edit) != FALSE;
+                                             mainEnabledAfter = IsWindowEnabled(main()) != FALSE;
+                                         },
+                                         answer(IDCANCEL)}));
+    EXPECT_TRUE(hiddenWhileLocked);
+    EXPECT_TRUE(shownAfter);
+    EXPECT_FALSE(mainEnabledAfter) << "the edit dialog is still modal over the window";
+    EXPECT_TRUE(IsWindowEnabled(main()));
+}
+
 TEST_F(Tick, CancellingTheLoginEndsTheProgramWithZero) {
     ASSERT_TRUE(pressWith(idLockButton, {answer(IDCANCEL)}));
     EXPECT_EQ(std::vector<UINT>{0}, exitCodes());
