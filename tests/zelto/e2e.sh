@@ -282,7 +282,7 @@ step="keys: masked rows, the filter box, filtering by a label, the selection"
 keys=$(fresh_folder keys)
 cli "$keys" "$password"$'\n'"$password"$'\n' init
 cli "$keys" "$password"$'\n' add Bank --label "money, home" --user ada
-cli "$keys" "$password"$'\n' add Mail --label "work, home"
+cli "$keys" "$password"$'\n'"mail-secret"$'\n' add Mail --label "work, home" --password-stdin
 cli "$keys" "$password"$'\n' add Office --label "Work"
 cli "$keys" "$password"$'\n' add Post
 cli "$keys" "$password"$'\n' settings --show-selected 30
@@ -312,6 +312,9 @@ click_child 121 10  # the first row
 expect_shown 'child 136 Static " Key "Mail" selected"'
 windows | grep -q 'child 132 Button "Copy Password" .* enabled=1' || fail "Copy Password stays off"
 shoot e2e-main-filtered
+click_child 132
+wait_shown "child 136 Static \" Copied 'Password' to clipboard\""
+shoot e2e-main-copied
 press alt+F4
 finish 20
 [ "$code" = 0 ] || fail "exit status $code"
@@ -394,11 +397,18 @@ step="Alt+? opens the about dialog; File, Backup through the real popup menu"
 need_window "$main_title"
 press alt+question
 need_window '^Zelto - About$'
+wait_shown '"Zelto - About"'
 press Return
-need_window "$main_title"
+for i in $(seq 1 60); do
+  has '"Zelto - About"' || break
+  sleep 0.5
+done
+expect_hidden '"Zelto - About"'
 press F10
 press Return
 press Down
+sleep 1
+shoot_screen e2e-file-popup
 press Return
 need_window '^Zelto - File created$'
 press Return
