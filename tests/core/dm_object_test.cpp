@@ -79,14 +79,11 @@ TEST(DmObject, CloneKeepsTheClassAndTheData) {
     ASSERT_NE(as_set, nullptr);
     EXPECT_EQ(as_set->size(), 1u);
 
-    const dm_object* objects[] = {&wide, &set};
-    const char* names[] = {"dm_string", "dm_utf8_strlist"};
-    for (int i = 0; i < 2; ++i) {
-        EXPECT_STREQ(objects[i]->clone()->class_name(), names[i]);
-    }
-    EXPECT_STREQ(dm_stringlist().clone()->class_name(), "dm_stringlist");
-    EXPECT_STREQ(dm_utf8_str().clone()->class_name(), "dm_utf8_str");
-    EXPECT_STREQ(dm_object().clone()->class_name(), "dm_object");
+    const std::unique_ptr<dm_object> others[] = {dm_stringlist().clone(), dm_utf8_str().clone(),
+                                                 dm_object().clone()};
+    const char* names[] = {"dm_stringlist", "dm_utf8_str", "dm_object"};
+    for (int i = 0; i < 3; ++i)
+        EXPECT_STREQ(others[i]->class_name(), names[i]);
 }
 
 TEST(DmLists, ItemsKeepOrderNamesAndAttributesThroughCopies) {
@@ -116,12 +113,11 @@ TEST(DmLists, ItemsKeepOrderNamesAndAttributesThroughCopies) {
 
 TEST(DmLists, CheckedAccessReportsOutOfRange) {
     dm_stringlist list;
-    EXPECT_TRUE(list.empty());
     EXPECT_EQ(list.get(0), nullptr);
     list.append(dm_string(DM_W("a")));
     ASSERT_NE(list.get(0), nullptr);
     EXPECT_EQ(list.get(0)->str(), DM_W("a"));
     EXPECT_EQ(list.get(1), nullptr);
     list.clear();
-    EXPECT_EQ(list.size(), 0u);
+    EXPECT_TRUE(list.empty());
 }

@@ -16,8 +16,18 @@ TEST(DmString, NullAndEmptyGiveAnEmptyZeroTerminatedText) {
     dm_string text(DM_W("keep"));
     text.assign(nullptr, 3);
     EXPECT_TRUE(text.empty());
+
+    const dm_utf8_str from_null8(static_cast<const char*>(nullptr));
+    const dm_utf8_str from_null_bytes(nullptr, 4);
+    const dm_utf8_str empty8;
+    for (const dm_utf8_str* s : {&from_null8, &from_null_bytes, &empty8}) {
+        ASSERT_NE(s->c_str(), nullptr);
+        EXPECT_STREQ(s->c_str(), "");
+        EXPECT_TRUE(s->empty());
+    }
 }
 
+// Equality is case-sensitive and ignores the name and the attributes.
 TEST(DmString, AppendAndEquals) {
     dm_string s(DM_W("ab"));
     s.append(DM_W("cd"));
@@ -25,18 +35,12 @@ TEST(DmString, AppendAndEquals) {
     s.append(DM_W("efgh"), 1);
     s.append(dm_string(DM_W("!")));
     EXPECT_EQ(s.str(), DM_W("abcde!"));
-    EXPECT_TRUE(s.equals(s));
-    EXPECT_TRUE(s.equals(dm_string(DM_W("abcde!"))));
-    EXPECT_FALSE(s.equals(dm_string(DM_W("ABCDE!"))));  // case-sensitive
+    dm_string same(DM_W("abcde!"));
+    same.set_object_name("one");
+    same.make_attributes().add("k", "x");
+    EXPECT_TRUE(s.equals(same));
+    EXPECT_FALSE(s.equals(dm_string(DM_W("ABCDE!"))));
     EXPECT_FALSE(s.equals(dm_string(DM_W("abcde"))));
-}
-
-TEST(DmString, EqualsIgnoresNameAndAttributes) {
-    dm_string a(DM_W("v"));
-    dm_string b(DM_W("v"));
-    a.set_object_name("one");
-    b.make_attributes().add("k", "x");
-    EXPECT_TRUE(a.equals(b));
 }
 
 TEST(DmString, FindFirstAndLast) {
@@ -52,17 +56,16 @@ TEST(DmString, FindFirstAndLast) {
 }
 
 TEST(DmString, SubstringEdges) {
+    const struct {
+        long start, count;
+        const dm_wchar* expected;
+    } cases[] = {{0, 5, DM_W("hello")}, {0, 10, DM_W("hello")}, {1, 3, DM_W("ell")},
+                 {3, 100, DM_W("lo")},  {4, 1, DM_W("o")},      {5, 1, DM_W("")},
+                 {9, 1, DM_W("")},      {1, 0, DM_W("")},       {1, -3, DM_W("")},
+                 {-1, 3, DM_W("")}};
     const dm_string s(DM_W("hello"));
-    EXPECT_EQ(s.substring(0, 5).str(), DM_W("hello"));
-    EXPECT_EQ(s.substring(0, 5 + 5).str(), DM_W("hello"));
-    EXPECT_EQ(s.substring(1, 3).str(), DM_W("ell"));
-    EXPECT_EQ(s.substring(3, 100).str(), DM_W("lo"));
-    EXPECT_EQ(s.substring(4, 1).str(), DM_W("o"));
-    EXPECT_TRUE(s.substring(5, 1).empty());  // start equal to the length
-    EXPECT_TRUE(s.substring(9, 1).empty());
-    EXPECT_TRUE(s.substring(1, 0).empty());
-    EXPECT_TRUE(s.substring(1, -3).empty());
-    EXPECT_TRUE(s.substring(-1, 3).empty());
+    for (const auto& c : cases)
+        EXPECT_EQ(s.substring(c.start, c.count).str(), c.expected) << c.start << "," << c.count;
     EXPECT_TRUE(dm_string().substring(0, 1).empty());
 }
 
@@ -73,17 +76,6 @@ TEST(DmString, ConversionsBetweenTheTwoForms) {
     EXPECT_TRUE(wide.to_utf8().equals(utf8));
     // Ill-formed input shortens the result instead of failing.
     EXPECT_EQ(dm_utf8_str("ok\xE2\x82").to_wide().str(), DM_W("ok"));
-}
-
-TEST(DmUtf8Str, NullAndEmptyGiveAnEmptyZeroTerminatedText) {
-    const dm_utf8_str from_null(static_cast<const char*>(nullptr));
-    const dm_utf8_str from_null_bytes(nullptr, 4);
-    const dm_utf8_str empty;
-    for (const dm_utf8_str* s : {&from_null, &from_null_bytes, &empty}) {
-        ASSERT_NE(s->c_str(), nullptr);
-        EXPECT_STREQ(s->c_str(), "");
-        EXPECT_TRUE(s->empty());
-    }
 }
 
 TEST(DmUtf8Str, BytesWithLengthKeepEmbeddedZeros) {

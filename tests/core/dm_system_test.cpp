@@ -57,49 +57,36 @@ TEST_F(DmSystemFiles, WriteThenReadRoundTripsUnderAWideName) {
 
 TEST_F(DmSystemFiles, WritingEmptyTextCreatesOrEmptiesTheFile) {
     const fs::path fresh = dir_ / "fresh.xml";
-    EXPECT_TRUE(dm_system::write_file(wide(fresh), dm_utf8_str()));
-    ASSERT_TRUE(fs::exists(fresh));
-    EXPECT_EQ(fs::file_size(fresh), 0u);
-
     const fs::path full = dir_ / "full.xml";
     put_bytes(full, "old content");
-    EXPECT_TRUE(dm_system::write_file(wide(full), dm_utf8_str("")));
-    EXPECT_EQ(fs::file_size(full), 0u);
+    for (const fs::path& file : {fresh, full}) {
+        EXPECT_TRUE(dm_system::write_file(wide(file), dm_utf8_str())) << file;
+        ASSERT_TRUE(fs::exists(file)) << file;
+        EXPECT_EQ(fs::file_size(file), 0u) << file;
+    }
 }
 
-TEST_F(DmSystemFiles, WriteFailsWhereNoFileCanBeMade) {
-    const dm_utf8_str text("x");
-    EXPECT_FALSE(dm_system::write_file(dm_string(), text));
-    EXPECT_FALSE(dm_system::write_file(wide(dir_ / "missing" / "f.xml"), text));
-    EXPECT_FALSE(dm_system::write_file(wide(dir_), text));
+TEST_F(DmSystemFiles, WriteAndReadFailWhereNoFileIs) {
+    const dm_string bad[] = {dm_string(), wide(dir_ / "missing" / "f.xml"), wide(dir_)};
+    for (const dm_string& path : bad) {
+        const std::string name = path.to_utf8().str();
+        EXPECT_FALSE(dm_system::write_file(path, dm_utf8_str("x"))) << name;
+        dm_utf8_str out("stale");
+        EXPECT_FALSE(dm_system::read_file(path, out)) << name;
+        EXPECT_TRUE(out.empty()) << name;
+    }
 }
 
-TEST_F(DmSystemFiles, ReadEmptiesTheOutputAndFailsWithoutAFile) {
-    dm_utf8_str out("stale");
-    EXPECT_FALSE(dm_system::read_file(wide(dir_ / "missing.xml"), out));
-    EXPECT_TRUE(out.empty());
-    out = dm_utf8_str("stale");
-    EXPECT_FALSE(dm_system::read_file(dm_string(), out));
-    EXPECT_TRUE(out.empty());
-    out = dm_utf8_str("stale");
-    EXPECT_FALSE(dm_system::read_file(wide(dir_), out));
-    EXPECT_TRUE(out.empty());
-}
-
-TEST_F(DmSystemFiles, ReadOfAnEmptyFileSucceedsWithEmptyText) {
-    const fs::path file = dir_ / "empty.xml";
-    put_bytes(file, "");
-    dm_utf8_str out("stale");
-    EXPECT_TRUE(dm_system::read_file(wide(file), out));
-    EXPECT_TRUE(out.empty());
-}
-
+// Reading stops at the first zero byte; an empty file is empty text, not a failure.
 TEST_F(DmSystemFiles, ReadStopsAtTheFirstZeroByte) {
-    const fs::path file = dir_ / "zero.bin";
-    put_bytes(file, std::string("ab\0cd", 5));
-    dm_utf8_str out;
-    EXPECT_TRUE(dm_system::read_file(wide(file), out));
-    EXPECT_EQ(out.str(), "ab");
+    const std::pair<std::string, std::string> cases[] = {{"", ""},
+                                                         {std::string("ab\0cd", 5), "ab"}};
+    for (const auto& c : cases) {
+        put_bytes(dir_ / "f.bin", c.first);
+        dm_utf8_str out("stale");
+        EXPECT_TRUE(dm_system::read_file(wide(dir_ / "f.bin"), out)) << c.second;
+        EXPECT_EQ(out.str(), c.second);
+    }
 }
 
 TEST_F(DmSystemFiles, FileExistsForFilesAndOrdinaryDirectories) {

@@ -25,16 +25,15 @@ class unnamed_object : public dm_object {
 
 }  // namespace
 
-TEST(DmXml, WideStringWritesValueThenTagEscaped) {
+// Value first, then the tag; both as UTF-8 and escaped.
+TEST(DmXml, ValuesAreWrittenAsUtf8AndEscaped) {
     dm_string s(DM_W("x<y"));
     s.set_object_name("a");
     EXPECT_EQ(written(s), "<dm_string value=\"x&lt;y\" tag=\"a\">\n</dm_string>\n");
-}
-
-TEST(DmXml, ValuesAreWrittenAsUtf8AndEscaped) {
-    dm_string wide(DM_W("\u00e9&'\""));
-    EXPECT_EQ(written(wide),
-              "<dm_string value=\"\xC3\xA9&amp;&apos;&quot;\" tag=\"\">\n</dm_string>\n");
+    s = dm_string(DM_W("\u00e9&'\""));
+    s.set_object_name("<n>");
+    EXPECT_EQ(written(s),
+              "<dm_string value=\"\xC3\xA9&amp;&apos;&quot;\" tag=\"&lt;n&gt;\">\n</dm_string>\n");
     dm_utf8_str bytes("a>b");
     bytes.set_object_name("n");
     EXPECT_EQ(written(bytes), "<dm_utf8_str value=\"a&gt;b\" tag=\"n\">\n</dm_utf8_str>\n");
