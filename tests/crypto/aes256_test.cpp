@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "crypto/aes256.h"
 #include "code_text.h"
+#include <string>
+
+#include "crypto/aes256.h"
 
 namespace {
 
@@ -14,7 +16,8 @@ struct Vector {
     const char* cipher;
 };
 
-// FIPS-197 appendix C.3, then the four ECB-AES256 blocks of NIST SP 800-38A F.1.5.
+// FIPS-197 appendix C.3, then the four ECB-AES256 blocks of NIST SP 800-38A
+// F.1.5.
 const Vector kVectors[] = {
     {"000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f",
      "00112233445566778899aabbccddeeff", "8ea2b7ca516745bfeafc49904b496089"},
@@ -28,33 +31,24 @@ const Vector kVectors[] = {
      "f69f2445df4f9b17ad2b417be66c3710", "23304b7a39f9f3ff067d8d8f9e24ecc7"},
 };
 
-TEST(Aes256, KnownAnswersBothDirections) {
-    for (const Vector& v : kVectors) {
-        SCOPED_TRACE(v.plain);
-        Zelto::zlAes256 aes;
-        ASSERT_TRUE(aes.set_key(from_hex(v.key).data()));
-
-        Bytes block = from_hex(v.plain);
-        ASSERT_TRUE(aes.encrypt_block(block.data()));
-        EXPECT_EQ(from_hex(v.cipher), block);
-
-        ASSERT_TRUE(aes.decrypt_block(block.data()));
-        EXPECT_EQ(from_hex(v.plain), block);
-    }
-}
-
-// One object keyed several times, directions mixed, must always use the latest key.
-TEST(Aes256, RekeyingTakesEffectInBothDirections) {
-    Zelto::zlAes256 aes;
-    for (int round = 0; round < 2; ++round) {
+// A fresh object per vector, then one object rekeyed for every vector: the
+// latest key must count in both directions, whichever comes first.
+TEST(Aes256, KnownAnswersBothDirectionsAndAfterRekeying) {
+    Zelto::zlAes256 reused;
+    for (int round = 0; round < 3; ++round) {
         for (const Vector& v : kVectors) {
-            SCOPED_TRACE(v.plain);
+            SCOPED_TRACE(std::string(v.plain) + " round " + std::to_string(round));
+            Zelto::zlAes256 fresh;
+            Zelto::zlAes256& aes = round == 0 ? fresh : reused;
             ASSERT_TRUE(aes.set_key(from_hex(v.key).data()));
-            Bytes block = from_hex(v.cipher);
-            ASSERT_TRUE(aes.decrypt_block(block.data()));
-            EXPECT_EQ(from_hex(v.plain), block);
-            ASSERT_TRUE(aes.encrypt_block(block.data()));
-            EXPECT_EQ(from_hex(v.cipher), block);
+            const bool decrypt_first = round == 2;
+            Bytes block = from_hex(decrypt_first ? v.cipher : v.plain);
+            for (int step = 0; step < 2; ++step) {
+                const bool decrypting = (step == 0) == decrypt_first;
+                ASSERT_TRUE(decrypting ? aes.decrypt_block(block.data())
+                                       : aes.encrypt_block(block.data()));
+                EXPECT_EQ(from_hex(decrypting ? v.plain : v.cipher), block);
+            }
         }
     }
 }

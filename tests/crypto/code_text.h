@@ -3,11 +3,15 @@
 // Test helpers: the text form of enciphered values, done the slow and obvious way so that the
 // fast paths of the layer are checked against it.
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "core/dm_utf8_str.h"
 #include "crypto/code_table.h"
+#include "crypto/zlEncrypt.h"
 
 namespace zelto_test {
 
@@ -49,8 +53,23 @@ inline Bytes from_hex(const std::string& hex) {
     return bytes;
 }
 
-inline std::string repeat(char c, size_t n) {
-    return std::string(n, c);
+inline Zelto::zlEncrypt cipher_with(const std::string& phrase) {
+    Zelto::zlEncrypt cipher;
+    EXPECT_EQ(0, cipher.set_pass_phrase(phrase.c_str()));
+    return cipher;
+}
+
+inline std::string text_of(const Zelto::zlEncrypt& cipher, const std::string& plain) {
+    dunmar::dm_utf8_str text;
+    EXPECT_EQ(0, cipher.encrypt(dunmar::dm_utf8_str(plain), text));
+    return text.str();
+}
+
+// Starts from stale text so that a result left unset shows.
+inline std::string plain_of(const Zelto::zlEncrypt& cipher, const std::string& text) {
+    dunmar::dm_utf8_str plain("stale");
+    EXPECT_EQ(0, cipher.decrypt(dunmar::dm_utf8_str(text), plain));
+    return plain.str();
 }
 
 }  // namespace zelto_test

@@ -43,41 +43,33 @@ TEST(PassPhrase, RefusedPhraseKeepsThePreviousOne) {
     EXPECT_EQ("second phrase", cipher.pass_phrase());
 }
 
-TEST(PassPhrase, WithoutUsablePhraseBothDirectionsRefuseAndEmptyTheResult) {
-    Zelto::zlEncrypt cipher;
-    dunmar::dm_utf8_str out("stale");
-    EXPECT_EQ(1, cipher.encrypt("secret", out));
-    EXPECT_TRUE(out.empty());
-
-    out = dunmar::dm_utf8_str("stale");
-    EXPECT_EQ(1, cipher.decrypt("6E6E6E6E", out));
-    EXPECT_TRUE(out.empty());
-
-    out = dunmar::dm_utf8_str("stale");
-    EXPECT_EQ(1, cipher.decrypt("", out));
-    EXPECT_TRUE(out.empty());
-
-    out = dunmar::dm_utf8_str("stale");
-    EXPECT_EQ(1, cipher.decrypt_item("6E6E6E6E", out));
-    EXPECT_TRUE(out.empty());
-}
-
-// Nothing to encipher is not a failure, with or without a pass phrase.
-TEST(PassPhrase, EmptyValuesGiveEmptyResults) {
+// Without a usable phrase every direction refuses; nothing to encipher is no failure, with or
+// without a phrase. The result is emptied either way.
+TEST(PassPhrase, RefusalsAndEmptyValuesEmptyTheResult) {
     Zelto::zlEncrypt without;
     Zelto::zlEncrypt with;
     ASSERT_EQ(0, with.set_pass_phrase("8 bytes!"));
-    dunmar::dm_utf8_str out("stale");
-    EXPECT_EQ(0, without.encrypt("", out));
-    EXPECT_TRUE(out.empty());
-
-    out = dunmar::dm_utf8_str("stale");
-    EXPECT_EQ(0, with.encrypt("", out));
-    EXPECT_TRUE(out.empty());
-
-    out = dunmar::dm_utf8_str("stale");
-    EXPECT_EQ(0, with.decrypt("", out));
-    EXPECT_TRUE(out.empty());
+    using Step = int (*)(const Zelto::zlEncrypt&, dunmar::dm_utf8_str&);
+    const struct {
+        const char* name;
+        const Zelto::zlEncrypt& cipher;
+        Step step;
+        int expected;
+    } cases[] = {
+        {"encrypt, without", without, [](auto& c, auto& o) { return c.encrypt("secret", o); }, 1},
+        {"decrypt, without", without, [](auto& c, auto& o) { return c.decrypt("6E6E6E6E", o); }, 1},
+        {"decrypt empty, without", without, [](auto& c, auto& o) { return c.decrypt("", o); }, 1},
+        {"decrypt item, without", without,
+         [](auto& c, auto& o) { return c.decrypt_item("6E6E6E6E", o); }, 1},
+        {"encrypt empty, without", without, [](auto& c, auto& o) { return c.encrypt("", o); }, 0},
+        {"encrypt empty, with", with, [](auto& c, auto& o) { return c.encrypt("", o); }, 0},
+        {"decrypt empty, with", with, [](auto& c, auto& o) { return c.decrypt("", o); }, 0},
+    };
+    for (const auto& c : cases) {
+        dunmar::dm_utf8_str out("stale");
+        EXPECT_EQ(c.expected, c.step(c.cipher, out)) << c.name;
+        EXPECT_TRUE(out.empty()) << c.name;
+    }
 }
 
 }  // namespace

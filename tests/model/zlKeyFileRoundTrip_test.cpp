@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
 #include <vector>
 
 #include "support/test_util.h"
@@ -25,27 +26,20 @@ class Generator {
     uint32_t below(uint32_t n) { return n ? static_cast<uint32_t>(rng_() % n) : 0; }
 
     std::string text(bool allowEmpty) {
-        static const char* pieces[] = {"a",
-                                       "Z",
-                                       "7",
-                                       " ",
-                                       "<",
-                                       ">",
-                                       "&",
-                                       "\"",
-                                       "'",
-                                       "\r\n",
-                                       "\t",
-                                       "\xC3\xA4",
-                                       "\xE2\x82\xAC",
-                                       "\xF0\x9F\x94\x91",
-                                       "&amp;",
-                                       "]]>",
-                                       "x@y.org"};
+        // Markup characters, line ends, one to four UTF-8 bytes, escapes that must stay text.
+        static const std::vector<std::string> pieces = [] {
+            std::vector<std::string> out;
+            std::istringstream in(
+                "a|Z|7| |<|>|&|\"|'|\t|&amp;|]]>|x@y.org|\r\n|"
+                "\xC3\xA4|\xE2\x82\xAC|\xF0\x9F\x94\x91");
+            for (std::string piece; std::getline(in, piece, '|');)
+                out.push_back(piece);
+            return out;
+        }();
         const uint32_t len = below(allowEmpty ? 40 : 39) + (allowEmpty ? 0 : 1);
         std::string s;
         for (uint32_t i = 0; i < len; ++i)
-            s += pieces[below(sizeof(pieces) / sizeof(*pieces))];
+            s += pieces[below(static_cast<uint32_t>(pieces.size()))];
         return s;
     }
 
@@ -138,17 +132,11 @@ void roundTrip(uint32_t seed, bool allowEmpty) {
     EXPECT_EQ(second.str(), third.buildFileText(dm_utf8_str("English")).str());
 }
 
-TEST(zlKeyFileRoundTrip, TextIsStableWithoutEmptyValues) {
-    for (uint32_t seed = 1; seed <= 12; ++seed) {
+// Without empty values the first text is already stable; with them the plain texts survive.
+TEST(zlKeyFileRoundTrip, TextIsStableAndPlainTextsSurvive) {
+    for (uint32_t seed = 1; seed <= 25; ++seed) {
         SCOPED_TRACE(seed);
-        roundTrip(seed, false);
-    }
-}
-
-TEST(zlKeyFileRoundTrip, PlainTextsSurviveEmptyValues) {
-    for (uint32_t seed = 100; seed <= 112; ++seed) {
-        SCOPED_TRACE(seed);
-        roundTrip(seed, true);
+        roundTrip(seed < 13 ? seed : seed + 87, seed >= 13);
     }
 }
 
