@@ -21,10 +21,6 @@ std::string n(const dm_string& text) {
     return text.to_utf8().str();
 }
 
-std::string masked(const char* text, int position) {
-    return n(zlMaskRow(w(text), position));
-}
-
 TEST(zlKeyRows, RowShowsTheLabelInBracketsOnlyWhenThereIsOne) {
     EXPECT_EQ("Bank (money, home)", n(zlRowText(w("Bank"), w("money, home"))));
     EXPECT_EQ("Bank", n(zlRowText(w("Bank"), w(""))));
@@ -33,45 +29,48 @@ TEST(zlKeyRows, RowShowsTheLabelInBracketsOnlyWhenThereIsOne) {
 }
 
 TEST(zlKeyRows, MaskHidesEverythingFromThePosition) {
-    EXPECT_EQ("Ba**********", masked("Bank (money)", 2));
-    EXPECT_EQ("************", masked("Bank (money)", 0));
-    EXPECT_EQ("************", masked("Bank (money)", -5));
-    EXPECT_EQ("Bank (money*", masked("Bank (money)", 11));
-    // At the full length nothing is left to hide; beyond it the row stays whole.
-    EXPECT_EQ("Bank (money)", masked("Bank (money)", 12));
-    EXPECT_EQ("Bank (money)", masked("Bank (money)", 13));
-    EXPECT_EQ("", masked("", 0));
-    // Characters, not bytes: the umlaut counts once.
-    EXPECT_EQ("B\xC3\xBC**", masked("B\xC3\xBCro", 2));
+    const struct {
+        const char* row;
+        int position;
+        const char* masked;
+    } cases[] = {
+        {"Bank (money)", 2, "Ba**********"},
+        {"Bank (money)", 0, "************"},
+        {"Bank (money)", -5, "************"},
+        {"Bank (money)", 11, "Bank (money*"},
+        // At the full length nothing is left to hide; beyond it the row stays whole.
+        {"Bank (money)", 12, "Bank (money)"},
+        {"Bank (money)", 13, "Bank (money)"},
+        {"", 0, ""},
+        // Characters, not bytes: the umlaut counts once.
+        {"B\xC3\xBCro", 2, "B\xC3\xBC**"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.masked, n(zlMaskRow(w(c.row), c.position))) << c.row << " @" << c.position;
 }
 
-class LongestName : public ::testing::Test {
-  protected:
-    void SetUp() override { ASSERT_EQ(0, file.set_pass_phrase(ztest::kShortPass)); }
-    void add(const char* name) {
-        zlKeyFields fields;
-        fields.value[0] = dm_utf8_str(name);
-        ASSERT_NE(nullptr, zlAddKey(file, fields));
-    }
+// At least ten characters, counted not as bytes; the range reaches ten beyond.
+TEST(zlKeyRows, LongestNameAndPartialShowRange) {
     zlKeyFile file;
-};
-
-TEST_F(LongestName, IsAtLeastTenAndTheRangeReachesTenBeyond) {
+    ASSERT_EQ(0, file.set_pass_phrase(ztest::kShortPass));
     EXPECT_EQ(10, zlLongestNameLength(nullptr));
     EXPECT_EQ(20, zlPartialShowMaximum(nullptr));
-    add("Bank");
-    EXPECT_EQ(10, zlLongestNameLength(file.keys()));
-    EXPECT_EQ(20, zlPartialShowMaximum(file.keys()));
-    add("abcdefghijklmnopqrstuvwxyz0123");  // 30 characters
-    add("Post");
-    EXPECT_EQ(30, zlLongestNameLength(file.keys()));
-    EXPECT_EQ(40, zlPartialShowMaximum(file.keys()));
-}
-
-TEST_F(LongestName, CountsCharactersNotBytes) {
-    add("\xC3\x9C"
-        "berweisungstr\xC3\xA4ger");  // 18 characters, 20 bytes
-    EXPECT_EQ(18, zlLongestNameLength(file.keys()));
+    const struct {
+        const char* name;
+        int longest;
+    } steps[] = {{"Bank", 10},
+                 {"\xC3\x9C"
+                  "berweisungstr\xC3\xA4ger",
+                  18},  // 20 bytes
+                 {"abcdefghijklmnopqrstuvwxyz0123", 30},
+                 {"Post", 30}};
+    for (const auto& s : steps) {
+        zlKeyFields fields;
+        fields.value[0] = dm_utf8_str(s.name);
+        ASSERT_NE(nullptr, zlAddKey(file, fields));
+        EXPECT_EQ(s.longest, zlLongestNameLength(file.keys())) << s.name;
+        EXPECT_EQ(s.longest + 10, zlPartialShowMaximum(file.keys())) << s.name;
+    }
 }
 
 }  // namespace

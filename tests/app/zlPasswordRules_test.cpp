@@ -8,45 +8,45 @@ using dunmar::dm_utf8_str;
 
 namespace {
 
-std::string rule(const std::string& password) {
-    return zlPasswordRuleMessage(dm_utf8_str(password).to_wide()).to_utf8().str();
-}
-
-std::string propose(const char* guid) {
-    return zlPasswordProposal(dm_utf8_str(guid).to_wide()).to_utf8().str();
-}
-
 TEST(zlPasswordRules, FirstBrokenRuleGivesTheMessage) {
-    EXPECT_EQ("Password size to small", rule("abc1234"));
-    EXPECT_EQ("Password size to small", rule(""));
-    EXPECT_EQ("", rule("abcd1234"));
-    EXPECT_EQ("", rule("a" + std::string(126, '7')));  // 127 characters
-    EXPECT_EQ("Password size to big", rule("a" + std::string(127, '7')));
-    EXPECT_EQ("First character must not be a number", rule("1abcdefg"));
-    EXPECT_EQ("First character must not be a number", rule("_abcdefg"));
-    EXPECT_EQ("Invalid character in password (allowed: A-Z, a-z, 0-9)", rule("abcd 1234"));
-    EXPECT_EQ("Invalid character in password (allowed: A-Z, a-z, 0-9)",
-              rule("abcd\xC3\xA4\xC3\xB6\xC3\xBC"
-                   "1"));
-    // Size comes before the other rules; characters are counted, not bytes.
-    EXPECT_EQ("Password size to small", rule("1 \xC3\xA4"));
-    EXPECT_EQ("Invalid character in password (allowed: A-Z, a-z, 0-9)",
-              rule("Zz09\xF0\x9F\x94\x91xyz"));
+    const std::string small = "Password size to small";
+    const std::string digit = "First character must not be a number";
+    const std::string invalid = "Invalid character in password (allowed: A-Z, a-z, 0-9)";
+    const std::pair<std::string, std::string> cases[] = {
+        {"abc1234", small},
+        {"", small},
+        {"abcd1234", ""},
+        {"a" + std::string(126, '7'), ""},  // 127 characters
+        {"a" + std::string(127, '7'), "Password size to big"},
+        {"1abcdefg", digit},
+        {"_abcdefg", digit},
+        {"abcd 1234", invalid},
+        {"abcd\xC3\xA4\xC3\xB6\xC3\xBC"
+         "1",
+         invalid},
+        // Size comes before the other rules; characters are counted, not bytes.
+        {"1 \xC3\xA4", small},
+        {"Zz09\xF0\x9F\x94\x91xyz", invalid},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.second, zlPasswordRuleMessage(dm_utf8_str(c.first).to_wide()).to_utf8().str())
+            << c.first;
     EXPECT_EQ("Password and verification text are not equal",
               zlPasswordMismatchMessage().to_utf8().str());
 }
 
+// Separators are dropped and only the first 16 characters count; upper-case letters at odd
+// places stay upper-case, a lower-case one at an even place becomes upper-case.
 TEST(zlPasswordRules, ProposalShiftsAndAlternatesCase) {
-    EXPECT_EQ("zl9Z", propose("0A"));
-    EXPECT_EQ("zlz9", propose("A0"));
-    // Separators are dropped, and only the first 16 characters of the text count.
-    // Upper-case letters at odd places stay upper-case; a lower-case one at an even place
-    // becomes upper-case.
-    EXPECT_EQ("zl7A4B3C2D0e9fZ8", propose("8B5C4D3E-1F0G-a9B1-CCCC-DDDDDDDDDDDD"));
-    const std::string p = propose("12345678-9ABC-DEF0-1234-56789ABCDEF0");
-    EXPECT_EQ("zl01234567", p.substr(0, 10));
-    EXPECT_EQ(16u, p.size());
-    EXPECT_EQ("zl012345678zAbcD", p);
+    const std::pair<const char*, const char*> cases[] = {
+        {"0A", "zl9Z"},
+        {"A0", "zlz9"},
+        {"8B5C4D3E-1F0G-a9B1-CCCC-DDDDDDDDDDDD", "zl7A4B3C2D0e9fZ8"},
+        {"12345678-9ABC-DEF0-1234-56789ABCDEF0", "zl012345678zAbcD"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.second, zlPasswordProposal(dm_utf8_str(c.first).to_wide()).to_utf8().str())
+            << c.first;
 }
 
 TEST(zlPasswordRules, FreshProposalsFollowTheRules) {

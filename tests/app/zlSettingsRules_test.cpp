@@ -9,43 +9,39 @@ using dunmar::dm_utf8_str;
 
 namespace {
 
-long seconds(const char* text) {
-    return zlSecondsFromText(dm_utf8_str(text).to_wide());
-}
-
 TEST(zlSettingsRules, TextIsReadLikeTheStandardConversion) {
-    EXPECT_EQ(0, seconds(""));
-    EXPECT_EQ(0, seconds("abc"));
-    EXPECT_EQ(0, seconds("-"));
-    EXPECT_EQ(45, seconds("45"));
-    EXPECT_EQ(45, seconds("  45s"));
-    EXPECT_EQ(7, seconds("+7"));
-    EXPECT_EQ(-12, seconds("-12"));
-    EXPECT_EQ(0, seconds("x45"));
-    EXPECT_EQ(120, seconds("00120"));
-    EXPECT_EQ(LONG_MAX, seconds("99999999999999999999999"));
-    EXPECT_EQ(LONG_MIN, seconds("-99999999999999999999999"));
+    const struct {
+        const char* text;
+        long seconds;
+    } cases[] = {{"", 0},
+                 {"abc", 0},
+                 {"-", 0},
+                 {"45", 45},
+                 {"  45s", 45},
+                 {"+7", 7},
+                 {"-12", -12},
+                 {"x45", 0},
+                 {"00120", 120},
+                 {"99999999999999999999999", LONG_MAX},
+                 {"-99999999999999999999999", LONG_MIN}};
+    for (const auto& c : cases)
+        EXPECT_EQ(c.seconds, zlSecondsFromText(dm_utf8_str(c.text).to_wide())) << c.text;
 }
 
-TEST(zlSettingsRules, AutoSecondsAreOffBelowFiveAndAtMost600) {
-    EXPECT_EQ(0, zlClampAutoSeconds(4));
-    EXPECT_EQ(0, zlClampAutoSeconds(0));
-    EXPECT_EQ(0, zlClampAutoSeconds(-30));
-    EXPECT_EQ(5, zlClampAutoSeconds(5));
-    EXPECT_EQ(600, zlClampAutoSeconds(600));
-    EXPECT_EQ(600, zlClampAutoSeconds(601));
-    EXPECT_EQ(600, zlClampAutoSeconds(LONG_MAX));
-    EXPECT_EQ(0, zlClampAutoSeconds(LONG_MIN));
-    EXPECT_EQ(0, zlClampAutoSeconds(seconds("letters")));
-}
-
-TEST(zlSettingsRules, ShowSelectedIsOffBelowOneAndAtMost30) {
-    EXPECT_EQ(0, zlClampShowSelectedSeconds(0));
-    EXPECT_EQ(0, zlClampShowSelectedSeconds(seconds("")));
-    EXPECT_EQ(1, zlClampShowSelectedSeconds(1));
-    EXPECT_EQ(30, zlClampShowSelectedSeconds(30));
-    EXPECT_EQ(30, zlClampShowSelectedSeconds(31));
-    EXPECT_EQ(0, zlClampShowSelectedSeconds(-1));
+// Automatic lock and clipboard: off below 5, at most 600. Show selected: off below 1, at
+// most 30.
+TEST(zlSettingsRules, ClampsSwitchOffBelowTheMinimumAndCapAtTheMaximum) {
+    const struct {
+        long seconds;
+        int autoSeconds;
+        int showSelected;
+    } cases[] = {{LONG_MIN, 0, 0}, {-30, 0, 0},    {0, 0, 0},          {1, 0, 1},
+                 {4, 0, 4},        {5, 5, 5},      {30, 30, 30},       {31, 31, 30},
+                 {600, 600, 30},   {601, 600, 30}, {LONG_MAX, 600, 30}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.autoSeconds, zlClampAutoSeconds(c.seconds)) << c.seconds;
+        EXPECT_EQ(c.showSelected, zlClampShowSelectedSeconds(c.seconds)) << c.seconds;
+    }
 }
 
 }  // namespace

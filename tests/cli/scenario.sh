@@ -64,10 +64,6 @@ expect_status 1
 expect_err_has "ERROR: unknown command 'frobnicate'"
 
 step="init"
-run $'short\nshort\n' init
-expect_status 1
-expect_err "ERROR: Password size to small"
-[ -e "$work/Zelto.xml" ] && fail "a refused password created the file"
 ok "$m$m" init
 expect_out "created \"$file\""
 head -c 38 "$work/Zelto.xml" | grep -q '^<?xml version="1.0" encoding="utf-8"?>' ||
@@ -115,8 +111,10 @@ ok "$m" get gitlab user
 expect_out "alice2"
 ok "$m" get gitlab pw
 expect_out "gh-secret-1"
+cp "$work/Zelto.xml" "$work/before-edit"
 ok "$m" edit gitlab --user alice2
 expect_out 'nothing changed in #1 "gitlab"'
+cmp -s "$work/before-edit" "$work/Zelto.xml" || fail "an edit without change wrote the file"
 ok "$m" get bank pw
 expect_out "$bank_pw"
 
@@ -182,17 +180,12 @@ grep -q 'Lovelace' "$work/Zelto.xml" && fail "a user field was stored in plain t
 ok "$m" settings --last-name ""
 expect_out_has $'first-name: Ada\nlast-name: \nemail: ada@example.org'
 
-step="wrong password"
-run "WrongPassword1"$'\n' ls
-expect_status 2
-expect_err "ERROR: wrong master password"
-expect_out ""
-
 step="ambiguous name"
 run "${m}other"$'\n' add mail --password-stdin
 expect_status 0
 expect_out 'added #3 "mail"'
 expect_err 'WARNING: 2 keys are named "mail" (#2, #3); name one by its position'
+grep -q '<language>Deutsch</language>' "$work/Zelto.xml" || fail "a write lost the language"
 run "$m" get mail pw
 expect_status 3
 expect_err 'ERROR: 2 keys are named "mail" (#2, #3); name one by its position'
@@ -208,8 +201,10 @@ cp "$legacy_fixture" "$work/legacy/Zelto.xml"
 file="$drive$work/legacy/Zelto.xml"
 run "wrong password 1"$'\n' ls
 expect_status 2
-expect_err_has "(Incorrect password))"
+expect_out ""
+[[ $err == 'ERROR: failed to read "'*'(Incorrect password))' ]] || fail "wrong password detail"
 cmp -s "$legacy_fixture" "$work/legacy/Zelto.xml" || fail "a failed conversion changed the file"
+[ "$(ls "$work/legacy")" = Zelto.xml ] || fail "a failed conversion left files behind"
 ok "$legacy_password"$'\n' ls
 expect_out $'#1 Bank (money, home)\n#2 M\xC3\xBCller GmbH\n#3 Plain name'
 grep -q encrypted "$work/legacy/Zelto.xml" && fail "the file was not converted"

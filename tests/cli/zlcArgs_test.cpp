@@ -56,20 +56,18 @@ TEST(zlcArgs, GlobalOptionsStandAnywhereAndDashesEndOptions) {
 }
 
 TEST(zlcArgs, HelpForTheToolAndForEachCommand) {
-    for (const std::vector<std::string>& argv :
-         std::vector<std::vector<std::string>>{{"--help"}, {"-h"}, {"help"}}) {
-        Parsed p = parse(argv);
-        ASSERT_TRUE(p.ok) << p.error;
-        EXPECT_TRUE(p.args.help);
-        EXPECT_EQ(nullptr, p.args.command);
-    }
-    for (const std::vector<std::string>& argv : std::vector<std::vector<std::string>>{
-             {"help", "show"}, {"show", "--help"}, {"--help", "show"}, {"show", "-h"}}) {
-        Parsed p = parse(argv);
-        ASSERT_TRUE(p.ok) << p.error;
-        EXPECT_TRUE(p.args.help);
-        ASSERT_NE(nullptr, p.args.command);
-        EXPECT_EQ("show", std::string(p.args.command->name));
+    const std::pair<std::vector<std::string>, const char*> cases[] = {
+        {{"--help"}, nullptr},        {{"-h"}, nullptr},
+        {{"help"}, nullptr},          {{"help", "show"}, "show"},
+        {{"show", "--help"}, "show"}, {{"--help", "show"}, "show"},
+        {{"show", "-h"}, "show"},
+    };
+    for (const auto& c : cases) {
+        Parsed p = parse(c.first);
+        ASSERT_TRUE(p.ok) << c.first[0] << ": " << p.error;
+        EXPECT_TRUE(p.args.help) << c.first[0];
+        EXPECT_EQ(std::string(c.second ? c.second : ""), p.args.command ? p.args.command->name : "")
+            << c.first[0];
     }
     EXPECT_TRUE(parse({"--version"}).args.version);
     EXPECT_FALSE(parse({"help", "nosuch"}).ok);
@@ -101,7 +99,7 @@ TEST(zlcArgs, WhatACommandDoesNotTakeIsRefused) {
 }
 
 // Each command's usage line, with its placeholders filled in, is a command line the parser
-// takes, and the overview names every command.
+// takes.
 TEST(zlcArgs, UsageLinesOfTheHelpParse) {
     for (const zlcCommandSpec& command : zlcCommands()) {
         const std::string help = zlcCommandHelp(command);
@@ -128,8 +126,6 @@ TEST(zlcArgs, UsageLinesOfTheHelpParse) {
         }
         Parsed p = parse(argv);
         EXPECT_TRUE(p.ok) << command.name << ": " << p.error;
-        EXPECT_NE(std::string::npos, zlcToolHelp().find(std::string("\n  ") + command.name + " "))
-            << command.name;
     }
 }
 

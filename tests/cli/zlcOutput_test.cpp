@@ -29,24 +29,18 @@ TEST(zlcOutput, ListLinesStayOneLineEach) {
     EXPECT_EQ("work\nB\xC3\xBCro\n", zlcLabelsText(labels));
 }
 
+// scenario.sh checks the whole layout; here the note's line ends and the password's forms.
 TEST(zlcOutput, ShowMasksThePasswordUnlessRevealed) {
-    EXPECT_EQ(
-        "#4\n"
-        "name:  bank\n"
-        "label: home, money\n"
-        "user:  \n"
-        "pw:    ********\n"
-        "email: \n"
-        "url:   https://bank.example/\n"
-        "note:  first\n"
-        "       second\n"
-        "       third\n",
-        zlcKeyText(4, sample(), false));
-    EXPECT_NE(std::string::npos, zlcKeyText(4, sample(), true).find("pw:    pin \"1234\"\n"));
+    const std::string masked = zlcKeyText(4, sample(), false);
+    EXPECT_EQ(0u, masked.find("#4\nname:  bank\n")) << masked;
+    EXPECT_NE(std::string::npos, masked.find("\npw:    ********\n")) << masked;
+    EXPECT_NE(std::string::npos, masked.find("\nnote:  first\n       second\n       third\n"))
+        << masked;
+    EXPECT_NE(std::string::npos, zlcKeyText(4, sample(), true).find("\npw:    pin \"1234\"\n"));
     // An empty password shows as empty, not as a mask.
     zlKeyFields none = sample();
     none.of(zlTypeKeyPW)->clear();
-    EXPECT_NE(std::string::npos, zlcKeyText(1, none, false).find("pw:    \n"));
+    EXPECT_NE(std::string::npos, zlcKeyText(1, none, false).find("\npw:    \n"));
 }
 
 TEST(zlcOutput, JsonCarriesTheExactValues) {
@@ -56,6 +50,15 @@ TEST(zlcOutput, JsonCarriesTheExactValues) {
     EXPECT_EQ("first\r\nsecond\nthird", key["note"]);
     EXPECT_EQ("", key["user"]);
     EXPECT_TRUE(nlohmann::json::parse(zlcKeyJson(4, sample(), false))["pw"].is_null());
+    // Bytes that are no UTF-8 become the replacement character.
+    zlKeyFields odd = sample();
+    *odd.of(zlTypeKeyNote) =
+        "a\xff"
+        "b";
+    EXPECT_EQ(
+        "a\xEF\xBF\xBD"
+        "b",
+        nlohmann::json::parse(zlcKeyJson(1, odd, true))["note"]);
 
     const auto list = nlohmann::json::parse(zlcKeyListJson({{2, "bank", " home,, money "}}));
     ASSERT_EQ(1u, list.size());
@@ -64,18 +67,6 @@ TEST(zlcOutput, JsonCarriesTheExactValues) {
     EXPECT_EQ((std::vector<std::string>{"home", "money "}),
               list[0]["labels"].get<std::vector<std::string>>());
     EXPECT_EQ("[]\n", zlcKeyListJson({}));
-}
-
-TEST(zlcOutput, JsonReplacesBytesThatAreNoUtf8) {
-    zlKeyFields odd = sample();
-    *odd.of(zlTypeKeyNote) =
-        "a\xff"
-        "b";
-    const auto key = nlohmann::json::parse(zlcKeyJson(1, odd, true));
-    EXPECT_EQ(
-        "a\xEF\xBF\xBD"
-        "b",
-        key["note"]);
 }
 
 }  // namespace

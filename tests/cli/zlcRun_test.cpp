@@ -4,9 +4,9 @@
 
 #include <filesystem>
 #include <functional>
+#include <iterator>
 
 #include "app/zlTexts.h"
-#include "cli/zlcCommandTable.h"
 #include "support/test_util.h"
 
 using namespace Zelto;
@@ -60,12 +60,8 @@ class CliTest : public ::testing::Test {
     }
 
     size_t filesInFolder() const {
-        size_t n = 0;
-        for (const auto& entry : std::filesystem::directory_iterator(dir.path())) {
-            (void)entry;
-            ++n;
-        }
-        return n;
+        using std::filesystem::directory_iterator;
+        return std::distance(directory_iterator(dir.path()), directory_iterator());
     }
 
     ztest::TempDir dir;
@@ -140,11 +136,10 @@ TEST_F(CliTest, FilesWithoutTheirSectionsAreRefused) {
     EXPECT_EQ(text, bytes());
 }
 
+// The rules themselves are in zlPasswordRules_test; here that init applies them.
 TEST_F(CliTest, InitAppliesThePasswordRules) {
     const std::vector<std::pair<std::vector<std::string>, std::string>> refused = {
         {{"abc1234", "abc1234"}, "Password size to small"},
-        {{"1abcdefg", "1abcdefg"}, "First character must not be a number"},
-        {{"abcd 1234", "abcd 1234"}, "Invalid character in password (allowed: A-Z, a-z, 0-9)"},
         {{"abcdefg\xff", "abcdefg\xff"}, "Invalid character in password (allowed: A-Z, a-z, 0-9)"},
         {{"Abcd1234", "abcd1234"}, "Password and verification text are not equal"},
         {{"abcd1234", ""}, "Password and verification text are not equal"},
@@ -167,73 +162,21 @@ TEST_F(CliTest, InitAppliesThePasswordRules) {
     EXPECT_EQ(0, run({"ls"}, {"abcd1234"}).status);
 }
 
-TEST_F(CliTest, EditWritesOnlyWhatChanges) {
+// Wrong options are refused before the master password is asked for.
+TEST_F(CliTest, RefusedOptionsAskForNothing) {
     makeFile();
-    const std::string before = bytes();
-    Result r = run({"edit", "bank", "--label", "home"}, {kMaster});
-    EXPECT_EQ(0, r.status);
-    EXPECT_EQ("nothing changed in #1 \"bank\"\n", r.out);
-    EXPECT_EQ(before, bytes());
-    r = run({"edit", "#1", "--name", "savings", "--user", "ada"}, {kMaster});
-    EXPECT_EQ(0, r.status) << r.err;
-    EXPECT_EQ("changed #1 \"savings\"\n", r.out);
-    EXPECT_EQ("ada", run({"get", "savings", "user"}, {kMaster}).out);
-    EXPECT_EQ("home", run({"get", "savings", "label"}, {kMaster}).out);
-    EXPECT_EQ("pin 1234", run({"get", "savings", "pw"}, {kMaster}).out);
-    // Refused before anything is asked.
-    r = run({"edit", "savings", "--name", ""}, {kMaster});
-    EXPECT_EQ(1, r.status);
-    EXPECT_EQ(0u, secretsRead);
-    r = run({"add", "x", "--generate", "--password-stdin"}, {kMaster});
-    EXPECT_EQ(1, r.status);
-    EXPECT_EQ("ERROR: --generate and --password-stdin exclude each other\n", r.err);
-    r = run({"get", "savings", "password"}, {kMaster});
-    EXPECT_EQ(1, r.status);
-    EXPECT_EQ(0u, secretsRead);
-    r = run({"edit", "nosuch", "--user", "x"}, {kMaster});
-    EXPECT_EQ(3, r.status);
-    EXPECT_EQ("ERROR: no key named \"nosuch\"\n", r.err);
-}
-
-TEST_F(CliTest, GeneratedPasswordsFollowTheProposal) {
-    makeFile();
-    ASSERT_EQ(0, run({"add", "shop", "--generate"}, {kMaster}).status);
-    ASSERT_EQ(0, run({"edit", "bank", "--generate"}, {kMaster}).status);
-    const std::string first = run({"get", "shop", "pw"}, {kMaster}).out;
-    const std::string second = run({"get", "bank", "pw"}, {kMaster}).out;
-    EXPECT_NE(first, second);
-    for (const std::string& pw : {first, second}) {
-        ASSERT_EQ(16u, pw.size()) << pw;
-        EXPECT_EQ("zl", pw.substr(0, 2));
-        for (char c : pw)
-            EXPECT_TRUE(std::isalnum(static_cast<unsigned char>(c))) << pw;
-    }
-}
-
-TEST_F(CliTest, SettingsKeepTheLanguageAcrossWrites) {
-    makeFile();
-    Result r = run({"settings", "--language", "Francais"}, {kMaster});
-    EXPECT_EQ(1, r.status);
-    EXPECT_EQ(0u, secretsRead);
-    r = run({"settings", "--language", "Deutsch", "--show-selected", "31"}, {kMaster});
-    ASSERT_EQ(0, r.status) << r.err;
-    EXPECT_EQ(
-        "autolock: 30\nclear-clipboard: 30\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: "
-        "\nlast-name: \nemail: \n",
-        r.out);
-    zlSetLanguage(zlLanguageEnglish);  // a new run starts from the file's language
-    ASSERT_EQ(0, run({"add", "shop"}, {kMaster}).status);
-    EXPECT_NE(std::string::npos, bytes().find("<language>Deutsch</language>"));
-    EXPECT_EQ(run({"settings"}, {kMaster}).out, r.out);
-}
-
-TEST_F(CliTest, EveryCommandIsBuiltIn) {
-    for (const zlcCommandSpec& command : zlcCommands()) {
-        std::vector<std::string> argv = {command.name};
-        for (int i = 0; i < command.minArguments; ++i)
-            argv.push_back(i == 1 ? "pw" : "x");
-        const Result r = run(argv, {});
-        EXPECT_EQ(std::string::npos, r.err.find("is not built in")) << command.name;
+    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+        {{"edit", "bank", "--name", ""}, ""},
+        {{"add", "x", "--generate", "--password-stdin"},
+         "ERROR: --generate and --password-stdin exclude each other\n"},
+        {{"get", "bank", "password"}, ""},
+        {{"settings", "--language", "Francais"}, ""},
+    };
+    for (const auto& c : cases) {
+        const Result r = run(c.first, {kMaster});
+        EXPECT_EQ(1, r.status) << c.first[0];
+        EXPECT_EQ(0u, secretsRead) << c.first[0];
+        EXPECT_EQ(0u, r.err.find(c.second.empty() ? "ERROR: " : c.second)) << r.err;
     }
 }
 

@@ -48,35 +48,31 @@ class LegacyConversion : public ::testing::Test {
     fs::path file = dir / "ZeltoPre.xml";
 };
 
-TEST_F(LegacyConversion, FixtureBecomesACurrentFileWithTheSameKeys) {
+// A leftover working file of an earlier run is replaced, not read.
+TEST_F(LegacyConversion, FixtureBecomesACurrentFileWithTheSameKeysAndSettings) {
     putFixture("Legacy.xml");
+    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
     ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
+    EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
 
-    EXPECT_FALSE(zlIsOlderFormat(dm_utf8_str(ztest::readBytes(file))));
+    const std::string text = ztest::readBytes(file);
+    EXPECT_FALSE(zlIsOlderFormat(dm_utf8_str(text)));
+    EXPECT_NE(std::string::npos, text.find("<userFirstName></userFirstName>"));
+    EXPECT_NE(std::string::npos, text.find("<userEmail></userEmail>"));
     zlKeyFile out;
     readBack(out, ztest::kLegacyFixturePassword);
     EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(out));
     EXPECT_EQ(nullptr, out.trash());
-    EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
-}
-
-TEST_F(LegacyConversion, KeepsClipboardTimeAndLanguageAndDefaultsTheRest) {
-    putFixture("Legacy.xml");
-    ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
-    zlKeyFile out;
-    readBack(out, ztest::kLegacyFixturePassword);
+    // Clipboard time and language are kept, the rest defaulted.
     const zlFileItemSettings& s = *out.settings();
     EXPECT_EQ(45, s.autoClearClipboard);
     EXPECT_EQ("Deutsch", s.language.str());
     EXPECT_EQ(30, s.autolock);
     EXPECT_EQ(2, s.showSelectedKey);
     EXPECT_EQ(zlFileItemSettings::programVersion().str(), s.version.str());
-    const std::string text = ztest::readBytes(file);
-    EXPECT_NE(std::string::npos, text.find("<userFirstName></userFirstName>"));
-    EXPECT_NE(std::string::npos, text.find("<userEmail></userEmail>"));
 }
 
-TEST_F(LegacyConversion, BareFileGetsDefaultSettings) {
+TEST_F(LegacyConversion, BareFileGetsDefaultSettingsAndAVerifyValueForItsPasswordOnly) {
     putFixture("LegacyBare.xml");
     ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
     zlKeyFile out;
@@ -84,14 +80,6 @@ TEST_F(LegacyConversion, BareFileGetsDefaultSettings) {
     EXPECT_EQ(30, out.settings()->autoClearClipboard);
     EXPECT_NE(std::string::npos, ztest::readBytes(file).find("<language></language>"));
     EXPECT_EQ(std::vector<std::string>{"name=only"}, ztest::plainKeys(out));
-}
-
-// The new verify value answers for the password and no other.
-TEST_F(LegacyConversion, NewVerifyValueRefusesAnotherPassword) {
-    putFixture("LegacyBare.xml");
-    ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
-    zlKeyFile out;
-    ASSERT_EQ(zlReadOk, out.readFile(ztest::widePath(file)));
     ASSERT_EQ(0, out.set_pass_phrase("legacy passworD"));
     EXPECT_EQ(zlPasswordWrong, zlCheckPassword(out));
 }
@@ -133,10 +121,7 @@ TEST_F(LegacyConversion, WrongPasswordLeavesTheFileAsItWas) {
         EXPECT_EQ(zlConvertWrongPassword, convert(wrong));
         EXPECT_EQ(before, ztest::readBytes(file));
     }
-}
-
-// The verify value made under another text is no proof of the password.
-TEST_F(LegacyConversion, VerifyValueOfAnotherTextCountsAsWrongPassword) {
+    // The verify value made under another text is no proof of the password.
     ztest::LegacyFile legacy;
     legacy.password = "right password";
     legacy.verifyPlain = "not the verify text";
@@ -154,14 +139,6 @@ TEST_F(LegacyConversion, UnusablePasswordIsAUsageError) {
     EXPECT_EQ(before, ztest::readBytes(file));
     // Checked before the file is looked for.
     EXPECT_EQ(zlConvertUsage, zlConvertLegacyFile(ztest::widePath(dir / "none.xml"), "7 bytes"));
-}
-
-TEST_F(LegacyConversion, MissingOrUnreadableFile) {
-    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
-    EXPECT_EQ(zlConvertNoFile,
-              zlConvertLegacyFile(dunmar::dm_string(), ztest::kLegacyFixturePassword));
-    fs::create_directory(file);
-    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
 }
 
 TEST_F(LegacyConversion, CurrentOrForeignFilesAreNotLegacy) {
@@ -197,23 +174,20 @@ TEST_F(LegacyConversion, DamagedFixturesAreRefusedAndLeftAlone) {
     EXPECT_GE(seen, 10);
 }
 
-TEST_F(LegacyConversion, FailedWriteLeavesTheFileAsItWas) {
+// A folder where the new text would go makes the write fail on every system; a folder in
+// place of the file cannot be read.
+TEST_F(LegacyConversion, MissingUnreadableOrUnwritableFile) {
+    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
+    EXPECT_EQ(zlConvertNoFile,
+              zlConvertLegacyFile(dunmar::dm_string(), ztest::kLegacyFixturePassword));
     putFixture("Legacy.xml");
     const std::string before = ztest::readBytes(file);
-    // A folder where the new text would go makes the write fail on every system.
     fs::create_directory(dir / "ZeltoPre.xml.new");
     EXPECT_EQ(zlConvertWriteFailed, convert(ztest::kLegacyFixturePassword));
     EXPECT_EQ(before, ztest::readBytes(file));
-}
-
-TEST_F(LegacyConversion, LeftoverNewFileIsReplaced) {
-    putFixture("Legacy.xml");
-    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
-    ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
-    EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
-    zlKeyFile out;
-    readBack(out, ztest::kLegacyFixturePassword);
-    EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(out));
+    fs::remove(file);
+    fs::create_directory(file);
+    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
 }
 
 }  // namespace
