@@ -2,7 +2,6 @@
 
 #include "cloud/zlTableError.h"
 #include "cloud/zlTableRequests.h"
-#include "core/dm_convert.h"
 
 namespace Zelto {
 
@@ -71,9 +70,8 @@ zlCloudResult zlAzure::write(const zlAzureTableEntity& entity) {
     if (!result.ok()) {
         return result;
     }
-    const std::string partitionKey =
-        dunmar::utf16_to_utf8(entity.lastName.c_str(), entity.lastName.length());
-    const std::string rowKey = dunmar::utf16_to_utf8(entity.email.c_str(), entity.email.length());
+    const std::string partitionKey = entity.lastName.to_utf8().str();
+    const std::string rowKey = entity.email.to_utf8().str();
     zlHttpRequest request;
     result = zlBuildInsertOrReplaceRequest(account_, tableName, partitionKey, rowKey, body, date_(),
                                            request);

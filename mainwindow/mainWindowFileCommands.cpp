@@ -2,6 +2,7 @@
 #include "app/zlKeyFileStore.h"
 #include "app/zlMasterPassword.h"
 #include "app/zlTexts.h"
+#include "core/dm_system.h"
 #include "dialogs/DlgAbout.h"
 #include "dialogs/DlgFileCreated.h"
 #include "dialogs/DlgSetMasterPw.h"
@@ -24,22 +25,22 @@ void showMessage(int text) {
     MessageBoxW(nullptr, zlText(text), zlText(zlTextAppName), MB_OK);
 }
 
-// The part of path after its last separator.
+// The part of path after its folder.
 dm_string fileNameOf(const dm_string& path) {
-    const std::wstring& text = path.str();
-    const size_t cut = text.find_last_of(L"\\/");
-    return dm_string(cut == std::wstring::npos ? text : text.substr(cut + 1));
+    dm_string folder;
+    dunmar::dm_system::dir_of_path(path, folder);
+    return path.substring(static_cast<long>(folder.length()),
+                          static_cast<long>(path.length() - folder.length()));
 }
 
 }  // namespace
 
 // The program's files lie beside the key file: backups go where the key file is.
 zlFileSet mainWindow::fileSet() const {
-    const std::wstring& path = file_.path().str();
-    const size_t cut = path.find_last_of(L"\\/");
-    if (cut == std::wstring::npos)
+    dm_string folder;
+    if (!dunmar::dm_system::dir_of_path(file_.path(), folder))
         return zlFileSet::ofThisProgram();
-    return zlFileSet::in(dm_string(path.substr(0, cut + 1)), zlNow());
+    return zlFileSet::in(folder, zlNow());
 }
 
 void mainWindow::showSettings() {

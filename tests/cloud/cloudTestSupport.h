@@ -5,12 +5,39 @@
 #include <string>
 #include <vector>
 
+#include <cstdlib>
+
+#include "cloud/zlCloudConfig.h"
 #include "cloud/zlHttpTransport.h"
+#include "core/dm_convert.h"
+#include "core/dm_guid.h"
 #include "model/zlKeyFile.h"
 #include "model/zlVerify.h"
 #include "support/test_util.h"
 
 namespace ztest {
+
+inline std::string utf8(const dunmar::dm_string& text) {
+    return dunmar::utf16_to_utf8(text.c_str(), text.length());
+}
+
+// A fresh text for table keys, so that records of earlier runs do no harm.
+inline std::string uniqueText() {
+    dunmar::dm_string guid;
+    dunmar::dm_new_guid_text(guid);
+    return utf8(guid);
+}
+
+// The emulator that scripts/test.sh starts and names in the environment; empty when none.
+// Under CI a missing one is an error; elsewhere tests that need it skip.
+inline std::string tableServiceConnectionString() {
+    const char* value = std::getenv(Zelto::zlCloudConnectionStringVariable);
+    return value ? value : "";
+}
+inline bool underCi() {
+    const char* ci = std::getenv("CI");
+    return ci != nullptr && std::string(ci) == "true";
+}
 
 // The emulator's well-known account, as UseDevelopmentStorage=true has it.
 inline const char* kDevKey =

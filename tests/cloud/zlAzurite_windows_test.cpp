@@ -19,15 +19,8 @@ using namespace Zelto;
 
 namespace {
 
-std::string utf8(const dunmar::dm_string& text) {
-    return dunmar::utf16_to_utf8(text.c_str(), text.length());
-}
-
-std::string uniqueText() {
-    dunmar::dm_string guid;
-    dunmar::dm_new_guid_text(guid);
-    return utf8(guid);
-}
+using ztest::uniqueText;
+using ztest::utf8;
 
 // A port on 127.0.0.1 with nothing listening: bound once by the system's choice, then freed.
 unsigned closedPort() {
@@ -83,16 +76,14 @@ class SilentServer {
 class AzuriteTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        const char* value = std::getenv(zlCloudConnectionStringVariable);
-        if (value == nullptr || value[0] == '\0') {
-            const char* ci = std::getenv("CI");
-            if (ci != nullptr && std::string(ci) == "true")
+        connectionString = ztest::tableServiceConnectionString();
+        if (connectionString.empty()) {
+            if (ztest::underCi())
                 FAIL() << zlCloudConnectionStringVariable
                        << " is not set: scripts/test.sh starts the table service and sets it";
             GTEST_SKIP() << "no table service: run under scripts/test.sh, or source "
                             "scripts/azurite.sh and call zelto_start_azurite first";
         }
-        connectionString = value;
         ASSERT_TRUE(zlParseConnectionString(connectionString, account).ok());
         ASSERT_EQ("127.0.0.1", account.endpoint.host) << "tests stay on this machine";
         transport = zlNewPlatformTransport();

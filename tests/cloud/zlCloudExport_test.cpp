@@ -14,9 +14,7 @@ using dunmar::dm_utf8_str;
 
 namespace {
 
-std::string utf8(const dm_string& text) {
-    return dunmar::utf16_to_utf8(text.c_str(), text.length());
-}
+using ztest::utf8;
 
 // Records the boxes in the order shown, with how many requests had gone out by then.
 class ExportTest : public ::testing::Test {

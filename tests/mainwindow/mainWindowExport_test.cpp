@@ -6,22 +6,14 @@
 #include "cloud/tableReader.h"
 #include "cloud/zlCloudConfig.h"
 #include "commandFixture.h"
-#include "core/dm_guid.h"
 
 using namespace ztest;
 using namespace Zelto;
 
 namespace {
 
-std::string uniqueText() {
-    dunmar::dm_string guid;
-    dunmar::dm_new_guid_text(guid);
-    return guid.to_utf8().str();
-}
-
-std::string utf8(const std::wstring& text) {
-    return dunmar::dm_string(text.c_str()).to_utf8().str();
-}
+using ztest::uniqueText;
+using ztest::utf8;
 
 // Sets the connection string the program reads for one test, and puts the old one back.
 class ConnectionScope {
@@ -41,14 +33,13 @@ class WindowExport : public CommandTest {
   protected:
     void SetUp() override {
         CommandTest::SetUp();
-        const char* value = std::getenv(zlCloudConnectionStringVariable);
-        if (value == nullptr || value[0] == '\0') {
-            const char* ci = std::getenv("CI");
-            if (ci != nullptr && std::string(ci) == "true")
+        const std::string connectionString = ztest::tableServiceConnectionString();
+        if (connectionString.empty()) {
+            if (ztest::underCi())
                 FAIL() << zlCloudConnectionStringVariable << " is not set under CI";
             GTEST_SKIP() << "no table service: run under scripts/test.sh";
         }
-        ASSERT_TRUE(zlParseConnectionString(value, account).ok());
+        ASSERT_TRUE(zlParseConnectionString(connectionString, account).ok());
         transport = zlNewPlatformTransport();
         lastName = "Hopper-" + uniqueText();
         email = "grace+" + uniqueText() + "@example.org";
@@ -87,7 +78,7 @@ class WindowExport : public CommandTest {
         if (index >= boxes.size() || boxes[index].first != title)
             return false;
         for (const std::wstring& shown : boxes[index].second)
-            if (utf8(shown) == text)
+            if (utf8(dunmar::dm_string(shown)) == text)
                 return true;
         return false;
     }

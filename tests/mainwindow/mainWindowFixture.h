@@ -70,30 +70,20 @@ class MainWindowTest : public ::testing::Test {
     }
 
     std::vector<std::wstring> rows() const {
-        std::vector<std::wstring> out;
-        HWND list = child(Zelto::idKeyList);
-        const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
-        for (LRESULT i = 0; i < count; ++i) {
-            std::wstring text(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1,
-                              L'\0');
-            const LRESULT got =
-                SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
-            text.resize(got > 0 ? static_cast<size_t>(got) : 0);
-            out.push_back(text);
-        }
-        return out;
+        return itemTexts(child(Zelto::idKeyList), LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT);
     }
     std::vector<std::wstring> filterItems() const {
+        return itemTexts(child(Zelto::idFilterBox), CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
+    }
+    // The item texts of a list or combo box, through its own count, length and text messages.
+    static std::vector<std::wstring> itemTexts(HWND box, UINT count, UINT length, UINT text) {
         std::vector<std::wstring> out;
-        HWND box = child(Zelto::idFilterBox);
-        const LRESULT count = SendMessageW(box, CB_GETCOUNT, 0, 0);
-        for (LRESULT i = 0; i < count; ++i) {
-            std::wstring text(static_cast<size_t>(SendMessageW(box, CB_GETLBTEXTLEN, i, 0)) + 1,
-                              L'\0');
-            const LRESULT got =
-                SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text.data()));
-            text.resize(got > 0 ? static_cast<size_t>(got) : 0);
-            out.push_back(text);
+        const LRESULT n = SendMessageW(box, count, 0, 0);
+        for (LRESULT i = 0; i < n; ++i) {
+            std::wstring item(static_cast<size_t>(SendMessageW(box, length, i, 0)) + 1, L'\0');
+            const LRESULT got = SendMessageW(box, text, i, reinterpret_cast<LPARAM>(item.data()));
+            item.resize(got > 0 ? static_cast<size_t>(got) : 0);
+            out.push_back(item);
         }
         return out;
     }

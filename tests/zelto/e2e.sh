@@ -123,6 +123,15 @@ press() {
   xdotool key "$@"
   sleep 0.3
 }
+# ends_with_zero: the program ends within 20 s, with exit status 0.
+ends_with_zero() {
+  finish 20
+  [ "$code" = 0 ] || fail "exit status $code"
+}
+close_main() {
+  press alt+F4
+  ends_with_zero
+}
 shoot() {
   import -window "$win" "$shots/$1.png" 2>/dev/null || fail "no screenshot $1"
 }
@@ -146,13 +155,17 @@ masked() {
 has() { windows | grep -qF -- "$1"; }
 # wait_shown TEXT: until the probe shows TEXT, up to 30 s. X keeps windows of closed
 # dialogs under their titles, so a title alone does not tell that a new login is up.
-wait_shown() {
-  local i
+wait_shown() { wait_until "not shown within 30 s: $1" has "$1"; }
+# wait_until WHY COMMAND...: runs COMMAND every half second until it succeeds, up to 30 s;
+# fails with WHY after that.
+wait_until() {
+  local why=$1 i
+  shift
   for i in $(seq 1 60); do
-    has "$1" && return 0
+    "$@" && return 0
     sleep 0.5
   done
-  fail "not shown within 30 s: $1"
+  fail "$why"
 }
 expect_shown() { has "$1" || fail "not shown: $1"; }
 expect_hidden() { ! has "$1" || fail "shown: $1"; }
@@ -217,9 +230,7 @@ expect_shown 'item "No keys found!"'
 expect_shown 'child 136 Static " Ready"'
 expect_shown 'child 130 Button "Edit" '
 windows | grep -q 'child 130 Button "Edit" .* enabled=0' || fail "Edit enabled without a key"
-press alt+F4
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+close_main
 cmp -s "$first/Zelto.xml" "$work/key-file-before" || fail "the key file changed"
 ok
 
@@ -227,8 +238,7 @@ step="wrong password"
 start "$first"
 login "Wrong12pw"
 message "ERROR: Incorrect password"
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+ends_with_zero
 cmp -s "$first/Zelto.xml" "$work/key-file-before" || fail "the key file changed"
 ok
 
@@ -247,8 +257,7 @@ type_text "Short7x"
 expect_shown 'child 1 Button "Cancel"'
 press Return
 message "ERROR: invalid password"
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+ends_with_zero
 ok
 
 step="a password the dialog takes but the cipher does not: over 128 bytes in UTF-8"
@@ -260,8 +269,7 @@ type_text "$(printf '\xe2\x82\xac%.0s' $(seq 1 120))" 80
 expect_shown 'child 1 Button "OK"'
 press Return
 message "ERROR: failed to set password"
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+ends_with_zero
 ok
 
 step="cancelled first start writes nothing"
@@ -273,8 +281,7 @@ need_window "$box_title"
 windows | grep -q 'Static "ERROR: Failed to create default Zelto Xml-File "[^"]*Zelto.xml""' ||
   fail "no message naming the key file in quotes"
 press Return
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+ends_with_zero
 [ ! -e "$cancelled/Zelto.xml" ] || fail "a key file was written"
 ok
 
@@ -315,9 +322,7 @@ shoot e2e-main-filtered
 click_child 132
 wait_shown "child 136 Static \" Copied 'Password' to clipboard\""
 shoot e2e-main-copied
-press alt+F4
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+close_main
 ok
 
 step="German key file: login and main window speak German"
@@ -332,9 +337,7 @@ need_window "$main_title"
 expect_shown 'child 131 Button "Benutzer kopieren"'
 expect_shown 'child 136 Static " Bereit"'
 shoot e2e-main-german
-press alt+F4
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+close_main
 ok
 
 step="older key file: converted at start by the converter inside Zelto.exe"
@@ -349,9 +352,7 @@ need_window "$main_title"
 rows=$(list_items 121 | wc -l)
 [ "$rows" -ge 2 ] || fail "the converted keys are not listed ($rows rows)"
 expect_hidden 'item "No keys found!"'
-press alt+F4
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+close_main
 grep -q "<version>" "$old/Zelto.xml" || fail "Zelto.xml is not in the current format"
 grep -q "encrypted" "$old/Zelto.xml" && fail "Zelto.xml still holds the older format"
 backup=$(ls "$old"/Zelto.backup.*.xml 2>/dev/null | head -n 1)
@@ -385,11 +386,8 @@ wait_shown 'child 1006 Edit'
 probe_title=$unlock_title click_child 1006
 type_text "$password"
 press Return
-for i in $(seq 1 40); do
-  [ "$(main_rect)" = "$before" ] && break
-  sleep 0.5
-done
-[ "$(main_rect)" = "$before" ] || fail "not restored: $(main_rect) instead of $before"
+restored() { [ "$(main_rect)" = "$before" ]; }
+wait_until "the window was not restored to $before" restored
 expect_shown 'child 132 Button "Copy Password"'
 ok
 
@@ -399,11 +397,8 @@ press alt+question
 need_window '^Zelto - About$'
 wait_shown '"Zelto - About"'
 press Return
-for i in $(seq 1 60); do
-  has '"Zelto - About"' || break
-  sleep 0.5
-done
-expect_hidden '"Zelto - About"'
+about_closed() { ! has '"Zelto - About"'; }
+wait_until "the about dialog stays open" about_closed
 press F10
 press Return
 press Down
@@ -414,9 +409,7 @@ need_window '^Zelto - File created$'
 press Return
 ls "$keys"/Zelto.backup.*.xml >/dev/null 2>&1 || fail "no backup written"
 wait_shown "Backup of 'Zelto.xml' done"
-press alt+F4
-finish 20
-[ "$code" = 0 ] || fail "exit status $code"
+close_main
 ok
 
 step="automatic lock after six idle seconds; cancelling its login ends the program with 0"
