@@ -36,12 +36,31 @@ bool writeConverter(const dm_string& path, const void* data, DWORD size, dm_stri
     return true;
 }
 
+// Appends text as one quoted argument that the C runtime's parser gives back unchanged:
+// backslashes are literal except before a quote, so the run before an inner quote or the
+// closing quote is doubled and each inner quote escaped.
+void appendQuoted(std::wstring& line, const dm_string& text) {
+    line.push_back(L'"');
+    size_t backslashes = 0;
+    for (const wchar_t* c = text.c_str(); *c != 0; ++c) {
+        if (*c == L'\\') {
+            ++backslashes;
+            continue;
+        }
+        line.append(*c == L'"' ? backslashes * 2 + 1 : backslashes, L'\\');
+        line.push_back(*c);
+        backslashes = 0;
+    }
+    line.append(backslashes * 2, L'\\');
+    line.push_back(L'"');
+}
+
 // Starts the converter in the folder and polls once a second until it has ended.
 bool startAndWait(const zlFileSet& files, const dunmar::dm_utf8_str& password, dm_string& detail,
                   unsigned long& exitCode) {
     std::wstring line = L"\"";
-    line.append(files.converter.c_str()).append(L"\" \"");
-    line.append(password.to_wide().c_str()).append(L"\"");
+    line.append(files.converter.c_str()).append(L"\" ");
+    appendQuoted(line, password.to_wide());
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};

@@ -12,6 +12,7 @@
 #include "app/zlTexts.h"
 #include "model/zlVerify.h"
 #include "support/legacy_fixture.h"
+#include "support/legacy_writer.h"
 #include "support/program_files.h"
 #include "support/test_util.h"
 
@@ -79,6 +80,22 @@ TEST_F(Conversion, OlderFileIsConvertedBackedUpAndReadBack) {
 
     EXPECT_EQ(legacyBytes, ztest::readBytes(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml"));
     expectTemporariesGone();
+}
+
+// Quotes and backslashes, which the converter's argument parsing treats specially, and a
+// blank: each password must reach the converter as it was typed.
+TEST_F(Conversion, PasswordsWithQuotesBackslashesAndBlanksConvert) {
+    for (const std::string password : {"pass\"word12", "password12\\", "pass\\\\\"word1",
+                                       "a\\b\\\\c\\\\\\\"d12", "pass word 12"}) {
+        SCOPED_TRACE(password);
+        ztest::LegacyFile legacy;
+        legacy.password = password;
+        legacy.keys.push_back({{"name", true, "shop"}, {"pw", false, password}});
+        ztest::writeBytes(keyFile, ztest::legacyText(legacy));
+        fs::remove(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml");
+        ASSERT_EQ(zlReadOk, readWithConversion(password.c_str())) << narrow(detail);
+        EXPECT_EQ(std::vector<std::string>{"name=shop|pw=" + password}, ztest::plainKeys(file));
+    }
 }
 
 // The converter's exit code reaches the detail; the older file stays as it was.
