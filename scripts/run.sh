@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds Zelto.exe (the windows preset) and starts it under Wine
-# on the current X display. The program keeps its key file Zelto.xml beside itself, so it
-# runs from a folder of its own that survives a clean build:
+# on the current X display; without one, on a virtual display that a browser on this
+# machine shows (scripts/browser-display.sh). The program keeps its key file Zelto.xml
+# beside itself, so it runs from a folder of its own that survives a clean build:
 #   ZELTO_RUN_DIR (default: ${XDG_DATA_HOME:-~/.local/share}/zelto)
 # Wine runs in a private prefix inside the build tree (build/windows/wineprefix).
 set -euo pipefail
