@@ -7,6 +7,7 @@ packages=(
   libssl-dev libgtest-dev googletest libbenchmark-dev nlohmann-json3-dev
   g++-mingw-w64-x86-64-posix mingw-w64-tools
   wine wine64 fonts-wine xvfb xauth xdotool imagemagick
+  x11vnc novnc websockify chromium python3-websocket  # run.sh without a display, and its browser test
 )
 
 # --- cloud export tests: the emulator pinned in package.json and package-lock.json. ---

@@ -102,6 +102,39 @@ if [ "${#problems[@]}" -gt 0 ]; then
   finish
 fi
 
+# --- release package: scripts/package.sh, then the same files packed again in another
+# folder must give the same bytes; the end-to-end test below drives the packaged programs. ---
+note "release package"
+if scripts/package.sh >build/package.log 2>&1; then
+  tail -n 2 build/package.log
+  passed=$((passed + 1))
+  package_zip=$(sed -n 's/^\(.*\.zip\): .*/\1/p' build/package.log)
+  package_again=$(mktemp -d)
+  if scripts/package.sh --no-build "$package_again/dist" >/dev/null &&
+     cmp "$package_zip" "$package_again/dist/$(basename "$package_zip")"; then
+    echo "packing again elsewhere gives the same bytes"
+    passed=$((passed + 1))
+  else
+    fail_step "release package: packing again gave other bytes"
+  fi
+  rm -rf "$package_again" build/package-unpacked
+  mkdir -p build/package-unpacked
+  if (cd build/package-unpacked && python3 -m zipfile -e "$package_zip" . &&
+      [ "$(python3 -m zipfile -l "$package_zip" | awk 'NR > 1 { print $1 }' | tr '\n' ' ')" = \
+        "Zelto.exe zelto-cli.exe README.txt SHA256SUMS " ] &&
+      sha256sum --quiet -c SHA256SUMS && [ "$(stat -c %s Zelto.exe)" -lt 2097152 ]); then
+    echo "the package holds its four files, their sums match, Zelto.exe is under 2 MB"
+    passed=$((passed + 1))
+    export ZELTO_E2E_PROGRAMS=$root/build/package-unpacked
+  else
+    fail_step "release package: contents, sums or size"
+  fi
+else
+  tail -n 30 build/package.log
+  fail_step "release package"
+fi
+# --- end of the release package block ---
+
 note "host tests"
 run_ctest host
 
@@ -154,5 +187,14 @@ if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix"; 
 else
   fail_step "starting Xvfb and Wine"
 fi
+
+# --- run.sh on a machine without a display, seen through headless Chromium ---
+note "run.sh without a display, in a browser"
+if timeout 900 tests/zelto/browser_view.sh "$root/build/windows/screenshots/browser-first-start.png"; then
+  passed=$((passed + 1))
+else
+  fail_step "run.sh without a display, in a browser"
+fi
+# --- end of the browser block ---
 
 finish

@@ -6,12 +6,19 @@
 # (zelto-cli.exe) makes key files with keys. The run has a display and a Wine prefix
 # (WINEPREFIX, made when missing) of its own, so that other tests running at the same time
 # can neither take the keyboard focus nor show windows in the screenshots.
+# ZELTO_E2E_PROGRAMS, when set, names a folder whose Zelto.exe and zelto-cli.exe are tested
+# instead of ZELTO_EXE and CLI_EXE (scripts/test.sh points it at the unpacked release).
 set -u
 zelto=${1:?usage: e2e.sh ZELTO_EXE PROBE_EXE CLI_EXE LEGACY_FIXTURE SCREENSHOT_DIR}
 probe=${2:?}
 cli=${3:?}
 legacy_fixture=${4:?}
 shots=${5:?}
+if [ -n "${ZELTO_E2E_PROGRAMS:-}" ]; then
+  zelto=$ZELTO_E2E_PROGRAMS/Zelto.exe
+  cli=$ZELTO_E2E_PROGRAMS/zelto-cli.exe
+fi
+echo "testing $zelto"
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 : "${WINEPREFIX:?WINEPREFIX must name a Wine prefix for this run (made when missing)}"
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
