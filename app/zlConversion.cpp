@@ -4,7 +4,9 @@
 
 #include "app/zlConverterRun.h"
 #include "app/zlFileOps.h"
+#include "app/zlKeyFileStore.h"
 #include "app/zlTexts.h"
+#include "core/dm_file_layer.h"
 #include "core/dm_system.h"
 
 namespace Zelto {
@@ -30,13 +32,18 @@ void completeTree(zlKeyFile& file) {
         file.root().appendChild(new zlFileItemKeys(&file));
 }
 
-// The same writer as every save, but under the language name the file holds, so that the
+// The same save as every other, but under the language name the file holds, so that the
 // language the converter kept is not replaced by the current interface language.
-bool writeBack(zlKeyFile& file) {
+int writeBack(zlKeyFile& file) {
     const dm_utf8_str language = file.settings()->language;
-    const dm_utf8_str text =
-        file.buildFileText(language.empty() ? zlLanguageNameForFile() : language);
-    return dunmar::dm_system::write_file(file.path(), text);
+    return zlSaveKeyFileAs(file, language.empty() ? zlLanguageNameForFile() : language);
+}
+
+// The converted text takes the key file's place in one step, like every save.
+bool replaceKeyFile(const zlFileSet& files) {
+    dm_utf8_str text;
+    return dunmar::dm_system::read_file(files.workingCopy, text) &&
+           dunmar::dm_save_file(files.keyFile, text);
 }
 
 }  // namespace
@@ -64,7 +71,7 @@ bool zlConvertKeyFile(const zlFileSet& files, const dm_utf8_str& password, dm_st
     }
     if (!zlCopyFile(files.keyFile, files.backup, true))
         return fail(detail, "failed to copy file \"Zelto.xml\" to \"Zelto.backup.xml\"");
-    if (!zlCopyFile(files.workingCopy, files.keyFile, true))
+    if (!replaceKeyFile(files))
         return fail(detail, "failed to copy file \"ZeltoPre.xml\" to \"Zelto.xml\"");
     return true;
 }
@@ -85,8 +92,10 @@ int zlReadWithConversion(zlKeyFile& file, const zlFileSet& files, const dm_utf8_
     } else if (detail.empty()) {
         detail = wide("failed to convert xml file to new format");
     }
+    // Whatever the converter left, also when it did not end by itself.
     zlDeleteFile(files.converter);
     zlDeleteFile(files.workingCopy);
+    zlDeleteFile(dunmar::dm_save_file_temp(files.workingCopy));
     return result;
 }
 

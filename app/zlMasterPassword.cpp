@@ -52,6 +52,10 @@ int zlChangeMasterPassword(zlKeyFile& file, const dm_utf8_str& newPassword,
     if (copied != zlChangeDone)
         return copied;
 
+    // Another program's change is neither backed up nor overwritten.
+    const int disk = zlCheckKeyFileOnDisk(file);
+    if (disk != zlSaved)
+        return disk;
     dunmar::dm_string backup;
     const int backedUp = zlMakeBackup(file.path(), files, backup);
     if (backedUp != zlBackupDone)

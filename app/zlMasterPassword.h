@@ -5,7 +5,9 @@
 
 namespace Zelto {
 
-// Results of zlChangeMasterPassword; a failed save or re-read gives its own code.
+// Results of zlChangeMasterPassword; a failed save or re-read gives its own code, and so
+// does a key file that another program changed or that cannot be read (zlSaveConflict,
+// zlSaveFailed), found before the backup.
 enum : int {
     zlChangeDone = 1,
     zlChangeEmpty = -12,
@@ -22,6 +24,7 @@ enum : int {
 
 // Re-enciphers the whole tree under newPassword into a second tree, backs the key file up
 // (backup name from files), writes the new tree over it and reads it back into file.
+// A key file changed by another program is left as it is, without a backup.
 // Nothing is touched unless every copy succeeded; the same password changes nothing.
 int zlChangeMasterPassword(zlKeyFile& file, const dunmar::dm_utf8_str& newPassword,
                            const dunmar::dm_utf8_str& newVerify, const zlFileSet& files);

@@ -37,9 +37,6 @@ int zlcPasswd(zlcContext& c) {
     if (result != zlChangeDone)
         return zlcFail(c.io, zlcExitFile,
                        "failed to change the master password (" + std::to_string(result) + ")");
-    const int kept = session.remember();
-    if (kept != zlcExitOk)
-        return kept;
     c.io.out += "master password changed; the old file is kept as \"" +
                 zlcPathText(session.files().backup) + "\"\n";
     return zlcExitOk;

@@ -34,14 +34,6 @@ const char* readReason(int result) {
     }
 }
 
-bool readBytes(const dunmar::dm_string& path, std::string& bytes) {
-    dm_utf8_str text;
-    if (!dm_system::read_file(path, text))
-        return false;
-    bytes = text.str();
-    return true;
-}
-
 }  // namespace
 
 std::string zlcSession::readFailure(const std::string& reason) const {
@@ -74,19 +66,11 @@ int zlcSession::open() {
 }
 
 int zlcSession::read() {
-    std::string before;
-    if (!readBytes(files_.keyFile, before))
-        return zlcFail(io_, zlcExitFile, readFailure(readReason(zlReadFailed)));
     const int result = file_.readFile(files_.keyFile);
     if (result == zlReadOlderFormat)
         return readOlderFormat();
     if (result != zlReadOk)
         return zlcFail(io_, zlcExitFile, readFailure(readReason(result)));
-    const int kept = remember();
-    if (kept != zlcExitOk)
-        return kept;
-    if (bytes_ != before)
-        return zlcFail(io_, zlcExitFile, readFailure("another program changed it meanwhile"));
     return zlcExitOk;
 }
 
@@ -104,18 +88,12 @@ int zlcSession::readOlderFormat() {
         return zlcFail(io_, wrongPassword ? zlcExitWrongPassword : zlcExitFile,
                        readFailure(reason));
     }
-    return remember();
-}
-
-int zlcSession::remember() {
-    if (!readBytes(files_.keyFile, bytes_))
-        return zlcFail(io_, zlcExitFile, readFailure(readReason(zlReadFailed)));
     return zlcExitOk;
 }
 
+// The same check as every save makes; here a change writes nothing at all, not even aside.
 int zlcSession::checkUnchanged() {
-    std::string now;
-    if (!readBytes(files_.keyFile, now) || now != bytes_)
+    if (zlCheckKeyFileOnDisk(file_) != zlSaved)
         return zlcFail(io_, zlcExitFile,
                        "\"" + zlcPathText(files_.keyFile) +
                            "\" was changed by another program since it was read; nothing "
@@ -129,7 +107,7 @@ int zlcSession::save() {
         return unchanged;
     if (zlSaveKeyFile(file_) != zlSaved)
         return zlcFail(io_, zlcExitFile, "failed to write \"" + zlcPathText(files_.keyFile) + "\"");
-    return remember();
+    return zlcExitOk;
 }
 
 }  // namespace Zelto

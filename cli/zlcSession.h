@@ -9,8 +9,8 @@
 namespace Zelto {
 
 // One logged-in use of the key file: the master password asked, the file read (an older
-// one converted first) and checked, and the exact bytes that were read kept, so that a
-// write can make sure nobody changed the file in between.
+// one converted first) and checked. The tree keeps the bytes it read, so that a write can
+// make sure nobody changed the file in between.
 class zlcSession {
   public:
     zlcSession(zlcIo& io, const zlFileSet& files) : io_(io), files_(files) {}
@@ -26,8 +26,6 @@ class zlcSession {
     int checkUnchanged();
     // Writes the tree over the file when it is unchanged on disk.
     int save();
-    // Takes the file on disk as read again, after a write made through the tree.
-    int remember();
 
     // The message prefix of read failures: failed to read "PATH".
     std::string readFailure(const std::string& reason) const;
@@ -42,7 +40,6 @@ class zlcSession {
     zlFileSet files_;
     zlKeyFile file_;
     std::string password_;
-    std::string bytes_;
 };
 
 }  // namespace Zelto

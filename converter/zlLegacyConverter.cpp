@@ -3,7 +3,7 @@
 #include "converter/zlLegacyReader.h"
 #include "converter/zlLegacyTree.h"
 #include "converter/zlLegacyValue.h"
-#include "converter/zlReplaceFile.h"
+#include "core/dm_file_layer.h"
 #include "core/dm_system.h"
 #include "model/zlFileFormat.h"
 
@@ -12,7 +12,9 @@ namespace Zelto {
 using dunmar::dm_system;
 using dunmar::dm_utf8_str;
 
-int zlConvertLegacyFile(const dunmar::dm_string& path, const char* password) {
+namespace {
+
+int convert(const dunmar::dm_string& path, const char* password) {
     zlKeyFile out;
     zlHexCipher legacy;
     if (out.set_pass_phrase(password) != 0 || legacy.set_pass_phrase(password) != 0)
@@ -37,7 +39,17 @@ int zlConvertLegacyFile(const dunmar::dm_string& path, const char* password) {
         return built;
     // The writer stamps the language it is given: the file's own.
     const dm_utf8_str converted = out.buildFileText(file.language);
-    return zlReplaceFileText(path, converted) ? zlConvertOk : zlConvertWriteFailed;
+    return dunmar::dm_save_file(path, converted) ? zlConvertOk : zlConvertWriteFailed;
+}
+
+}  // namespace
+
+int zlConvertLegacyFile(const dunmar::dm_string& path, const char* password) {
+    const int result = convert(path, password);
+    // A new file left by an earlier run that did not end goes too.
+    if (result != zlConvertOk && !path.empty())
+        dunmar::dm_file_layer::current().remove(dunmar::dm_save_file_temp(path));
+    return result;
 }
 
 }  // namespace Zelto

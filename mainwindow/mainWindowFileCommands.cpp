@@ -21,8 +21,8 @@ namespace {
 constexpr int32_t kBackupFailedTicks = 60;
 constexpr int32_t kBackupDoneTicks = 20;
 
-void showMessage(int text) {
-    MessageBoxW(nullptr, zlText(text), zlText(zlTextAppName), MB_OK);
+void showMessage(const wchar_t* text) {
+    MessageBoxW(nullptr, text, zlText(zlTextAppName), MB_OK);
 }
 
 // The part of path after its folder.
@@ -46,6 +46,8 @@ zlFileSet mainWindow::fileSet() const {
 void mainWindow::showSettings() {
     DlgSettings dialog(instance_, window_, file_);
     dialog.run();
+    if (dialog.failedSaves() > 0)
+        showSaveFailure();
 }
 
 void mainWindow::showAbout() {
@@ -66,7 +68,17 @@ void mainWindow::changeMasterPassword() {
         zlChangeMasterPassword(file_, password, zlMakeVerifyValue(password), fileSet());
     fill();
     state.paused = wasPaused;
-    showMessage(changed == zlChangeDone ? textChangeDone : textChangeFailed);
+    if (changed == zlChangeDone) {
+        showMessage(zlText(textChangeDone));
+        return;
+    }
+    dm_string text(zlText(textChangeFailed));
+    if (changed == zlSaveConflict) {
+        text.append(L"\n'");
+        text.append(fileNameOf(file_.path()));
+        text.append(L"' was changed by another program; nothing was changed");
+    }
+    showMessage(text.c_str());
 }
 
 void mainWindow::switchLanguage(int language) {
@@ -99,12 +111,17 @@ void mainWindow::backup() {
 }
 
 // The tree was changed but the file could not be written: the change stays in memory and
-// goes out with the next save, and the user is told so.
+// goes out with the next save, and the user is told so. When another program had changed
+// the file, the tree went to a file of its own beside it: the user is told its name.
 void mainWindow::showSaveFailure() {
-    dm_string text(L"ERROR: failed to save '");
-    text.append(fileNameOf(file_.path()));
-    text.append(L"'");
-    status_.show(0, {text.c_str()});
+    const dm_string name = fileNameOf(file_.path());
+    const dm_string aside = fileNameOf(file_.conflictFile());
+    if (file_.conflictFile().empty())
+        status_.show(0, {L"ERROR: failed to save '", name.c_str(), L"'"});
+    else
+        status_.show(
+            0, {L"ERROR: '", name.c_str(), L"' was changed by another program; your change is in '",
+                aside.c_str(), L"'"});
 }
 
 }  // namespace Zelto

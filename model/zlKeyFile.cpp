@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/dm_file_layer.h"
 #include "core/dm_system.h"
 #include "model/zlFileFormat.h"
 #include "model/zlKeyFileReader.h"
@@ -24,7 +25,24 @@ zlFileItemTrash* zlKeyFile::trash() const {
     return static_cast<zlFileItemTrash*>(root_.findChild(zlTypeTrash));
 }
 
+void zlKeyFile::setPath(const dm_string& path) {
+    if (!path.equals(path_))
+        forgetDiskBytes();
+    path_ = path;
+}
+
+void zlKeyFile::rememberDiskBytes(std::string bytes) {
+    diskBytes_ = std::move(bytes);
+    diskKnown_ = true;
+}
+
+void zlKeyFile::forgetDiskBytes() {
+    diskBytes_.clear();
+    diskKnown_ = false;
+}
+
 int zlKeyFile::readFile(const dm_string& path) {
+    forgetDiskBytes();
     if (path.empty())
         return zlReadEmptyPath;
     path_ = path;
@@ -39,6 +57,7 @@ int zlKeyFile::readFile(const dm_string& path) {
     dm_utf8_str text;
     if (!dm_system::read_file(path, text))
         return zlReadFailed;
+    rememberDiskBytes(text.str());
     if (zlIsOlderFormat(text))
         return zlReadOlderFormat;
     return readText(std::move(text));
@@ -65,7 +84,7 @@ dm_utf8_str zlKeyFile::buildFileText(const dm_utf8_str& languageName) {
 bool zlKeyFile::writeSkeleton(const dm_utf8_str& verify) const {
     if (path_.empty() || dm_system::file_exists(path_))
         return false;
-    dm_system::write_file(path_, zlSkeletonText(verify));
+    dunmar::dm_save_file(path_, zlSkeletonText(verify), false);
     return dm_system::file_exists(path_);
 }
 

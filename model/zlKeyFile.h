@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/dm_string.h"
 #include "core/dm_utf8_str.h"
 #include "crypto/zlEncrypt.h"
@@ -30,16 +32,29 @@ class zlKeyFile : public zlEncrypt {
     zlFileItemRoot& root() { return root_; }
     const zlFileItemRoot& root() const { return root_; }
 
-    // The key file this tree was read from and is written to.
+    // The key file this tree was read from and is written to. Another path forgets what
+    // the old one held.
     const dunmar::dm_string& path() const { return path_; }
-    void setPath(const dunmar::dm_string& path) { path_ = path; }
+    void setPath(const dunmar::dm_string& path);
+
+    // The bytes of path() as this tree last read or wrote them, so that a save can tell a
+    // change by another program; null when they are not known.
+    const std::string* diskBytes() const { return diskKnown_ ? &diskBytes_ : nullptr; }
+    void rememberDiskBytes(std::string bytes);
+    void forgetDiskBytes();
+
+    // The file the last save wrote the tree to instead of path(), because another program
+    // had changed path(); empty after any other save.
+    const dunmar::dm_string& conflictFile() const { return conflictFile_; }
+    void setConflictFile(const dunmar::dm_string& path) { conflictFile_ = path; }
 
     // First children of the root of each kind, or null.
     zlFileItemSettings* settings() const;
     zlFileItemKeys* keys() const;
     zlFileItemTrash* trash() const;
 
-    // Reads the file at path into the tree (see the zlRead codes) and remembers the path.
+    // Reads the file at path into the tree (see the zlRead codes) and remembers the path
+    // and the bytes read.
     int readFile(const dunmar::dm_string& path);
     // Parses a text already in memory; 1 or -7. Also the entry point of the fuzzer.
     int readText(dunmar::dm_utf8_str&& text);
@@ -48,8 +63,8 @@ class zlKeyFile : public zlEncrypt {
     // list) and stamps it with this program's version and the interface language's name.
     dunmar::dm_utf8_str buildFileText(const dunmar::dm_utf8_str& languageName);
 
-    // Writes the first-start file at path(); false when a file is already there or the
-    // file does not exist afterwards.
+    // Writes the first-start file at path() safely and never over another; false when a
+    // file is already there or the file does not exist afterwards.
     bool writeSkeleton(const dunmar::dm_utf8_str& verify) const;
 
     // Moves key from the key list to the trash, making the trash when there is none.
@@ -58,6 +73,9 @@ class zlKeyFile : public zlEncrypt {
   private:
     zlFileItemRoot root_;
     dunmar::dm_string path_;
+    std::string diskBytes_;
+    bool diskKnown_ = false;
+    dunmar::dm_string conflictFile_;
 };
 
 }  // namespace Zelto

@@ -137,6 +137,8 @@ fi
 
 note "host tests"
 run_ctest host
+# The kill test of the key file's saves prints how many kills it made and what they left.
+grep -h '^kill test:' build/host/Testing/Temporary/LastTest.log 2>/dev/null
 
 note "host tests under AddressSanitizer and UBSan"
 if cmake --preset sanitize >build/build-sanitize.log 2>&1 &&

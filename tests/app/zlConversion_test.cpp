@@ -43,6 +43,7 @@ class Conversion : public ::testing::Test {
     void expectTemporariesGone() {
         EXPECT_FALSE(fs::exists(dir / "ZeltoPre.exe"));
         EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml"));
+        EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
     }
     void expectUntouched() {
         EXPECT_EQ(legacyBytes, ztest::readBytes(keyFile));
@@ -123,6 +124,7 @@ TEST_F(Conversion, MissingKeyFileFailsAtTheFirstCopyAndLeftoversGo) {
     fs::remove(keyFile);
     ztest::writeBytes(dir / "ZeltoPre.exe", "left from an earlier run");
     ztest::writeBytes(dir / "ZeltoPre.xml", "left from an earlier run");
+    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
     EXPECT_EQ(zlReadFailed, readWithConversion(ztest::kLegacyFixturePassword));
     EXPECT_EQ("failed to copy file \"Zelto.xml\" to \"ZeltoPre.xml\"", narrow(detail));
     expectTemporariesGone();

@@ -178,17 +178,13 @@ TEST_F(MasterPasswordTest, CopyFailuresAreReportedByStage) {
     EXPECT_EQ(kOld, file.pass_phrase());
 }
 
-TEST_F(MasterPasswordTest, SaveReportsAFileThatCannotBeWritten) {
-    file.setPath(ztest::widePath(dir / "no such folder" / "Zelto.xml"));
-    EXPECT_EQ(-27, zlSaveKeyFile(file));
-    EXPECT_EQ(before, ztest::readBytes(dir / "Zelto.xml"));
-    file.setPath(files.keyFile);
-    const std::vector<std::string> plain = plainTexts(file);
-    EXPECT_EQ(1, zlSaveKeyFile(file));
-    zlKeyFile again;
-    again.set_pass_phrase(kOld);
-    ASSERT_EQ(1, again.readFile(files.keyFile));
-    EXPECT_EQ(plain, plainTexts(again));
+// Another program's change is found before the backup: nothing is written at all.
+TEST_F(MasterPasswordTest, AFileChangedByAnotherProgramIsLeftAsItIs) {
+    before += "<!-- another program -->\r\n";
+    ztest::writeBytes(dir / "Zelto.xml", before);
+    EXPECT_EQ(zlSaveConflict, change(kNew, files));
+    EXPECT_EQ(0u, backups());
+    expectUntouched();
 }
 
 TEST(zlVerify, ValuesAndChecks) {

@@ -93,6 +93,15 @@ TEST_F(CliTest, AFileChangedMeanwhileIsNotOverwritten) {
         EXPECT_EQ(other, bytes()) << w.first[0];
     }
     EXPECT_EQ(1u, filesInFolder()) << "no backup may be made";
+
+    // A file deleted meanwhile is no change: it is written anew.
+    beforeSecret = [&](size_t index) {
+        if (index == 1)
+            std::filesystem::remove(dir / "Zelto.xml");
+    };
+    ASSERT_EQ(0, run({"add", "shop", "--password-stdin"}, {kMaster, "x"}).status);
+    beforeSecret = nullptr;
+    EXPECT_EQ("x", run({"get", "shop", "pw"}, {kMaster}).out);
 }
 
 TEST_F(CliTest, TheMasterPasswordMustOpenTheFile) {

@@ -112,14 +112,17 @@ TEST_F(LegacyConversion, PasswordsOfEveryLengthClassConvert) {
     roundTrip("p\xC3\xA4sswo\xCC\x88rd \xE2\x9C\x93");
 }
 
+// A new file left by a run that did not end goes with any failure.
 TEST_F(LegacyConversion, WrongPasswordLeavesTheFileAsItWas) {
     putFixture("Legacy.xml");
     const std::string before = ztest::readBytes(file);
+    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from a run that did not end");
     // A wrong password of another length must not pass for a damaged file.
     for (const char* wrong : {"legacy passworD", "8 bytes!", "a much longer wrong password than"}) {
         SCOPED_TRACE(wrong);
         EXPECT_EQ(zlConvertWrongPassword, convert(wrong));
         EXPECT_EQ(before, ztest::readBytes(file));
+        EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
     }
     // The verify value made under another text is no proof of the password.
     ztest::LegacyFile legacy;

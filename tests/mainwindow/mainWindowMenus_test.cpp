@@ -18,10 +18,11 @@ std::wstring menuBarText(HWND window, UINT id) {
     return text;
 }
 
-std::vector<std::filesystem::path> backupsIn(const std::filesystem::path& folder) {
+std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder,
+                                           const char* prefix = "Zelto.backup.") {
     std::vector<std::filesystem::path> found;
     for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (entry.path().filename().string().rfind("Zelto.backup.", 0) == 0)
+        if (entry.path().filename().string().rfind(prefix, 0) == 0)
             found.push_back(entry.path());
     return found;
 }
@@ -118,7 +119,7 @@ TEST_F(MenuCommands, MasterPasswordChangeReenciphersEverythingAndSaysSo) {
     EXPECT_TRUE(mainWindowGlobals().paused) << "the pause flag is put back as it was";
 
     // The old file was kept as a backup first.
-    const auto backups = backupsIn(dir.path());
+    const auto backups = filesIn(dir.path());
     ASSERT_EQ(1u, backups.size());
     EXPECT_EQ(before, readBytes(backups[0]));
     // The list still reads: the window shows the re-read tree.
@@ -146,12 +147,44 @@ TEST_F(MenuCommands, AFailedMasterPasswordChangeIsToldAndLeavesTheFile) {
     EXPECT_EQ(std::string(kShortPass), file.pass_phrase());
 }
 
+// Another program's change stays: the tree goes beside it, the status line names that file
+// until the next message, and the master password is not changed over it.
+TEST_F(MenuCommands, AFileChangedByAnotherProgramIsNeverOverwritten) {
+    twoKeys();
+    const std::string other = bytesOnDisk() + "<!-- another program -->\r\n";
+    writeBytes(path, other);
+    menu(IDM_LANGUAGE, IDM_DEUTSCH);
+    EXPECT_EQ(other, bytesOnDisk());
+    const auto aside = filesIn(dir.path(), "Zelto.conflict.");
+    ASSERT_EQ(1u, aside.size());
+    EXPECT_NE(std::string::npos, readBytes(aside[0]).find("<language>Deutsch</language>"));
+    EXPECT_EQ(L" ERROR: 'Zelto.xml' was changed by another program; your change is in '" +
+                  aside[0].filename().wstring() + L"'",
+              statusText());
+    EXPECT_EQ(-1, window->status().ticksLeft()) << "stays until the next message";
+
+    std::wstring title;
+    std::vector<std::wstring> texts;
+    ASSERT_TRUE(
+        menuWith(IDM_SETTINGS, IDM_SET_MASTER_PW,
+                 {enter(IDC_SETPW_PASSWORD, L"Newpass99"), enter(IDC_SETPW_VERIFY, L"Newpass99"),
+                  answer(IDOK), look(title, texts), answer(IDOK)}));
+    EXPECT_TRUE(contains(texts,
+                         L"FEHLER: Master Passwort konnte nicht ge\u00E4ndert werden !\n"
+                         L"'Zelto.xml' was changed by another program; nothing was "
+                         L"changed"))
+        << (texts.empty() ? L"" : texts.back());
+    EXPECT_EQ(other, bytesOnDisk());
+    EXPECT_TRUE(filesIn(dir.path()).empty()) << "no backup";
+    EXPECT_EQ(std::string(kShortPass), file.pass_phrase());
+}
+
 TEST_F(MenuCommands, BackupWritesACopyTellsWhereAndShowsTheFileCreatedDialog) {
     twoKeys();
     std::wstring title;
     std::vector<std::wstring> texts;
     ASSERT_TRUE(menuWith(IDM_FILE, IDM_BACKUP, {look(title, texts), answer(IDOK)}));
-    const auto backups = backupsIn(dir.path());
+    const auto backups = filesIn(dir.path());
     ASSERT_EQ(1u, backups.size());
     EXPECT_EQ(bytesOnDisk(), readBytes(backups[0]));
     const std::wstring backupPath = widePath(backups[0]).str();
@@ -165,7 +198,7 @@ TEST_F(MenuCommands, BackupWritesACopyTellsWhereAndShowsTheFileCreatedDialog) {
                                     L"\"Zelto.xml\" to \"Zelto.backup."))
         << statusText();
     EXPECT_EQ(60, window->status().ticksLeft());
-    EXPECT_EQ(1u, backupsIn(dir.path()).size());
+    EXPECT_EQ(1u, filesIn(dir.path()).size());
 }
 
 TEST_F(MenuCommands, AboutComesFromTheMenuAndFromBothAccelerators) {
