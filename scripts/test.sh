@@ -136,7 +136,7 @@ fi
 # --- end of the release package block ---
 
 note "host tests"
-run_ctest host
+ZELTO_SLOW_TESTS=1 run_ctest host
 # The kill test of the key file's saves prints how many kills it made and what they left.
 grep -h '^kill test:' build/host/Testing/Temporary/LastTest.log 2>/dev/null
 

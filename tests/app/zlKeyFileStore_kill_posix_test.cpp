@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <random>
@@ -82,6 +83,9 @@ TEST(KeyFileStoreKill, ASaveKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
     // no memory errors the other tests would not find: the plain host build runs this.
     GTEST_SKIP() << "run in the host build";
 #endif
+    // Seconds long: scripts/test.sh asks for it, quick runs (mutation checks) leave it out.
+    if (std::getenv("ZELTO_SLOW_TESTS") == nullptr)
+        GTEST_SKIP() << "set ZELTO_SLOW_TESTS=1 to run";
     ztest::TempDir dir;
     const fs::path path = dir / "Zelto.xml";
     zlKeyFile file;
