@@ -86,7 +86,8 @@ zlCloudResult splitPairs(const std::string& text, Settings& settings) {
             if (lower(key) == "sharedaccesssignature") {
                 return malformed("shared access signatures are not supported");
             }
-            return malformed("unknown key '" + key + "'");
+            // Not quoted: a key that lost its name stands here.
+            return malformed("a part has an unknown name");
         }
         if (settings.count(known) != 0) {
             return malformed(std::string("key '") + known + "' given twice");
@@ -110,6 +111,21 @@ bool isAccountName(const std::string& name) {
     return true;
 }
 
+// Letters, digits, '-' and '.': no base64 key, which has '+', '/' or '=', passes as one.
+bool isHostName(const std::string& text) {
+    if (text.empty()) {
+        return false;
+    }
+    for (char c : text) {
+        const bool allowed = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+                             (c >= '0' && c <= '9') || c == '-' || c == '.';
+        if (!allowed) {
+            return false;
+        }
+    }
+    return true;
+}
+
 zlCloudResult accountFrom(const Settings& settings, zlStorageAccount& account) {
     auto value = [&settings](const char* key, const char* fallback) {
         const auto it = settings.find(key);
@@ -124,7 +140,7 @@ zlCloudResult accountFrom(const Settings& settings, zlStorageAccount& account) {
         return malformed("AccountName is missing");
     }
     if (!isAccountName(account.accountName)) {
-        return malformed("AccountName '" + account.accountName + "' is not a storage account name");
+        return malformed("AccountName is not a storage account name");
     }
     account.accountKey = value("AccountKey", "");
     if (account.accountKey.empty()) {
@@ -137,14 +153,13 @@ zlCloudResult accountFrom(const Settings& settings, zlStorageAccount& account) {
         account.tableEndpoint = value("TableEndpoint", "");
     } else {
         const std::string suffix = value("EndpointSuffix", "core.windows.net");
-        if (suffix.empty() || suffix.find_first_of("/:@ ") != std::string::npos) {
-            return malformed("EndpointSuffix '" + suffix + "' is not a host name");
+        if (!isHostName(suffix)) {
+            return malformed("EndpointSuffix is not a host name");
         }
         account.tableEndpoint = protocol + "://" + account.accountName + ".table." + suffix;
     }
     if (!zlSplitUrl(account.tableEndpoint, account.endpoint)) {
-        return malformed("table endpoint '" + account.tableEndpoint +
-                         "' is not an http or https address");
+        return malformed("the table endpoint is not an http or https address");
     }
     while (!account.tableEndpoint.empty() && account.tableEndpoint.back() == '/') {
         account.tableEndpoint.pop_back();

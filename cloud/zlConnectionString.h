@@ -22,8 +22,8 @@ extern const char zlDevelopmentStorageConnectionString[];
 // Parses "Key=value;Key=value;...": each pair is split at its first '=' (account keys end in
 // '='), key names compare without regard to case, empty pairs are skipped. Knows the
 // standard keys, TableEndpoint and UseDevelopmentStorage=true; the endpoints of other
-// services are accepted and ignored. On failure `out` is unchanged and the reason never
-// quotes the account key.
+// services are accepted and ignored. On failure `out` is unchanged and the reason quotes
+// nothing of the text: a key misplaced anywhere in it must not be shown.
 zlCloudResult zlParseConnectionString(const std::string& text, zlStorageAccount& out);
 
 // True for standard base64 with padding and a length that is a multiple of four.

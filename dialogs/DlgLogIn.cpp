@@ -1,6 +1,7 @@
 #include "dialogs/DlgLogIn.h"
 
 #include "app/zlTexts.h"
+#include "core/dm_convert.h"
 #include "dialogs/dialogText.h"
 #include "res/resource.h"
 #include "ui/shellOpen.h"
@@ -9,6 +10,7 @@
 namespace Zelto {
 
 using dunmar::dm_string;
+using dunmar::dm_utf8_str;
 
 namespace {
 
@@ -37,6 +39,13 @@ void DlgLogIn::setRelabelHandler(relabelHandler handler) {
 
 bool DlgLogIn::lengthAccepted(const dm_string& password) {
     return password.length() >= 8 && password.length() <= 127;
+}
+
+bool DlgLogIn::utf8Password(dm_utf8_str& out) const {
+    bool whole = false;
+    const std::string bytes = dunmar::utf16_to_utf8(password_.c_str(), password_.length(), &whole);
+    out = whole ? dm_utf8_str(bytes) : dm_utf8_str();
+    return whole;
 }
 
 bool DlgLogIn::runLengthTest() {

@@ -29,6 +29,9 @@ class DlgLogIn : public dunmar::DlgBase {
 
     // The typed password, read after the dialog has ended.
     const dunmar::dm_string& password() const { return password_; }
+    // The same in UTF-8, as the key file takes it; false (and out empty) when the text does
+    // not convert wholly, such as one with a lone surrogate: no password can match it.
+    bool utf8Password(dunmar::dm_utf8_str& out) const;
 
     // Offers the interface language in a combo box (no caller does so today).
     void setOfferLanguageChoice(bool offer) { offerLanguage_ = offer; }

@@ -42,12 +42,17 @@ bool mainWindow::askToUnlock() {
         DlgLogIn login(instance_, window_);
         const INT_PTR result = login.run();
         if (result == IDCANCEL || result == -1) {
+            // The window's end clears what it put on the clipboard.
+            DestroyWindow(window_);
             endProcess(0);
             return false;
         }
         if (result != IDOK)
             continue;
-        const dunmar::dm_utf8_str password = login.password().to_utf8();
+        dunmar::dm_utf8_str password;
+        // A text with a lone surrogate is no password at all, not an empty one.
+        if (!login.utf8Password(password))
+            continue;
         if (password.empty())
             return true;
         if (zlSetPassword(file_, password.c_str()) == 0 &&

@@ -1,7 +1,10 @@
 #include "mainwindow/mainWindow.h"
 
+#include <wtsapi32.h>
+
 #include "mainwindow/mainWindowIds.h"
 #include "mainwindow/mainWindowState.h"
+#include "mainwindow/zlClipboard.h"
 #include "ui/listTypeAhead.h"
 #include "ui/uiColors.h"
 
@@ -17,6 +20,9 @@ bool onBackground(int id) {
 
 constexpr int32_t kLineStep = 1;
 constexpr int32_t kPageStep = 10;
+
+// Posted by a session lock or a suspend: the lock runs after the system's message returned.
+constexpr UINT kLockRequest = WM_APP + 41;
 
 }  // namespace
 
@@ -38,8 +44,27 @@ LRESULT mainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             onCreate();
             return 0;
         case WM_DESTROY:
-            if (!replacing_)
+            WTSUnRegisterSessionNotification(window);
+            if (!replacing_) {
+                // The program ends with this window: a copied secret does not outlive it.
+                zlClipboard::instance().clearIfUnchanged();
                 PostQuitMessage(0);
+            }
+            return 0;
+        case WM_WTSSESSION_CHANGE:
+            if (wParam == WTS_SESSION_LOCK)
+                PostMessageW(window, kLockRequest, 0, 0);
+            return 0;
+        case WM_POWERBROADCAST:
+            if (wParam == PBT_APMSUSPEND)
+                PostMessageW(window, kLockRequest, 0, 0);
+            return TRUE;
+        case kLockRequest:
+            // Not in the middle of re-enciphering the keys: the next tick after it locks.
+            if (mainWindowGlobals().paused)
+                mainWindowGlobals().lockPending = true;
+            else
+                lock();
             return 0;
         case WM_NCDESTROY:
             onDestroyed();
@@ -100,6 +125,8 @@ void mainWindow::onCreate() {
     controls_->create(instance_, window_, mainWindowGlobals().partialPosition);
     fill();
     controls_->setFont(font_);
+    // Wine may only pretend to register; the session lock then just does not reach us.
+    WTSRegisterSessionNotification(window_, NOTIFY_FOR_THIS_SESSION);
 }
 
 void mainWindow::onDestroyed() {

@@ -21,6 +21,8 @@ struct mainWindowState {
     bool paused = false;
     // A lock is running; the tick does not start another.
     bool locked = false;
+    // The session was locked while paused: the first tick after the pause locks.
+    bool lockPending = false;
 };
 
 mainWindowState& mainWindowGlobals();

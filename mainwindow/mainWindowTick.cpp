@@ -21,8 +21,14 @@ void CALLBACK mainWindow::timerProc(HWND window, UINT, UINT_PTR, DWORD) {
 
 // Only pointer movement counts as activity here; commands restart the timer themselves.
 void mainWindow::onTimer() {
-    if (mainWindowGlobals().paused)
+    mainWindowState& state = mainWindowGlobals();
+    if (state.paused)
         return;
+    if (state.lockPending) {
+        state.lockPending = false;
+        lock();
+        return;
+    }
     POINT now = {0, 0};
     if (readCursor(now) && timer_.cursorMoved(now)) {
         dunmar::idleTime().reset();

@@ -102,7 +102,8 @@ bool zlClipboard::place(HWND owner, const dm_string& text) {
 }
 
 bool zlClipboard::clearIfUnchanged() {
-    if (text_.empty() || !OpenClipboard(owner_))
+    // The window that copied may be gone (a language switch makes a new one).
+    if (text_.empty() || !OpenClipboard(IsWindow(owner_) ? owner_ : nullptr))
         return false;
     const bool ours = clipboardText().equals(text_);
     if (ours)

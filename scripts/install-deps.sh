@@ -49,19 +49,57 @@ if [ "${#missing[@]}" -eq 0 ] && [ "$need_src" -eq 0 ]; then
   exit $?
 fi
 
+# machine_source: "URI SUITE [KEYRING]" of the first enabled binary source that is not the
+# security suite, from the machine's own apt sources (one-line and deb822 files). Nothing
+# when there is none.
+machine_source() {
+  local f
+  for f in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+    [ -f "$f" ] || continue
+    awk '$1 == "deb" {
+           keyring = ""; i = 2
+           if ($2 ~ /^\[/) {
+             for (; i <= NF; i++) {
+               if (match($i, /signed-by=[^] ]+/)) keyring = substr($i, RSTART + 10, RLENGTH - 10)
+               if ($i ~ /\]$/) { i++; break }
+             }
+           }
+           if ($(i + 1) ~ /-security$/) next
+           print $i, $(i + 1), keyring; exit
+         }' "$f"
+  done
+  for f in /etc/apt/sources.list.d/*.sources; do
+    [ -f "$f" ] || continue
+    awk 'BEGIN { RS = ""; FS = "\n" }
+         {
+           types = uri = suite = keyring = ""; enabled = 1
+           for (n = 1; n <= NF; n++) {
+             split($n, w, /[ \t]+/)
+             if (w[1] == "Types:") types = " " substr($n, 7) " "
+             else if (w[1] == "URIs:") uri = w[2]
+             else if (w[1] == "Suites:") suite = w[2]
+             else if (w[1] == "Signed-By:" && w[2] ~ /^\//) keyring = w[2]
+             else if (w[1] == "Enabled:" && w[2] == "no") enabled = 0
+           }
+           if (enabled && types ~ / deb / && uri != "" && suite !~ /-security$/) {
+             print uri, suite, keyring; exit
+           }
+         }' "$f"
+  done
+}
+
 if [ "$need_src" -eq 1 ]; then
-  codename=$(. /etc/os-release && echo "${VERSION_CODENAME}")
-  uri=http://deb.debian.org/debian
-  keyring=/usr/share/keyrings/debian-archive-keyring.gpg
-  if [ -f /etc/apt/sources.list.d/debian.sources ]; then
-    # Take the machine's own mirror and keyring so that apt sees one consistent source.
-    uri=$(awk '/^URIs:/ {print $2; exit}' /etc/apt/sources.list.d/debian.sources)
-    keyring=$(awk '/^Signed-By:/ {print $2; exit}' /etc/apt/sources.list.d/debian.sources)
-  elif [ -f /etc/apt/sources.list ]; then
-    uri=$(awk '/^deb / && $0 !~ /security/ {print $2; exit}' /etc/apt/sources.list)
+  # The source packages come from where the machine's own binary packages come from.
+  read -r uri suite keyring < <(machine_source | head -n 1) || true
+  if [ -z "${uri:-}" ] || [ -z "${suite:-}" ]; then
+    echo "install-deps.sh: no package source found under /etc/apt (sources.list, sources.list.d);" \
+      "configure the machine's Debian sources first, then run this again" >&2
+    exit 1
   fi
-  printf 'Types: deb-src\nURIs: %s\nSuites: %s\nComponents: main\nSigned-By: %s\n' \
-    "$uri" "$codename" "$keyring" | "${sudo[@]}" tee /etc/apt/sources.list.d/zelto-src.sources >/dev/null
+  {
+    printf 'Types: deb-src\nURIs: %s\nSuites: %s\nComponents: main\n' "$uri" "$suite"
+    [ -n "${keyring:-}" ] && printf 'Signed-By: %s\n' "$keyring"
+  } | "${sudo[@]}" tee /etc/apt/sources.list.d/zelto-src.sources >/dev/null
 fi
 
 export DEBIAN_FRONTEND=noninteractive

@@ -36,7 +36,12 @@ int zlApp::start(HINSTANCE instance, int showCommand) {
         return 0;
     readFirstTime();
 
-    const dm_utf8_str password = askPassword();
+    bool convertible = true;
+    const dm_utf8_str password = askPassword(convertible);
+    if (!convertible) {
+        zlShowMessage(dm_string(L"ERROR: Incorrect password"));
+        return 0;
+    }
     if (password.empty())
         return 0;
     if (zlSetPassword(file_, password.c_str()) != 0) {
@@ -65,10 +70,13 @@ void zlApp::readFirstTime() {
         zlSetLanguageFromSettings(file_.settings()->language);
 }
 
-dm_utf8_str zlApp::askPassword() {
+dm_utf8_str zlApp::askPassword(bool& convertible) {
     DlgLogIn login(instance_, nullptr);
-    if (login.run() == IDOK)
-        return login.password().to_utf8();
+    if (login.run() == IDOK) {
+        dm_utf8_str password;
+        convertible = login.utf8Password(password);
+        return password;
+    }
     // The button reads "Cancel" until the text is long enough: what was typed is no password.
     if (!login.password().empty())
         zlShowMessage(dm_string(L"ERROR: invalid password"));

@@ -32,7 +32,8 @@ class zlApp {
   private:
     bool makeFirstKeyFile();
     void readFirstTime();
-    dunmar::dm_utf8_str askPassword();
+    // Empty when cancelled; convertible false for a text that is no UTF-8 password.
+    dunmar::dm_utf8_str askPassword(bool& convertible);
     bool readWithConversion(const dunmar::dm_utf8_str& password);
     int runMessageLoop();
 

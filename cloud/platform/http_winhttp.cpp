@@ -42,28 +42,25 @@ std::wstring wide(const std::string& text) {
     return std::wstring(converted.begin(), converted.end());
 }
 
-std::string serverName(const zlHttpRequest& request) {
-    return request.server.host + ":" + std::to_string(request.server.port);
-}
-
-zlCloudResult networkFailure(const zlHttpRequest& request, const char* step) {
+// The reasons name no server: its name is built from the connection string, whose parts
+// are not shown, and a key pasted into the wrong place would show with it.
+zlCloudResult networkFailure(const char* step) {
     const DWORD error = GetLastError();
-    const std::string server = serverName(request);
     std::string reason;
     switch (error) {
         case ERROR_WINHTTP_NAME_NOT_RESOLVED:
-            reason = "the server name '" + request.server.host + "' could not be resolved";
+            reason = "the table service's server name could not be resolved";
             break;
         case ERROR_WINHTTP_CANNOT_CONNECT:
         case kSocketRefused:
-            reason = "no connection to " + server + " (refused or unreachable)";
+            reason = "no connection to the table service (refused or unreachable)";
             break;
         case ERROR_WINHTTP_TIMEOUT:
         case kSocketTimedOut:
-            reason = "no answer from " + server + " in time";
+            reason = "no answer from the table service in time";
             break;
         case ERROR_WINHTTP_CONNECTION_ERROR:
-            reason = "the connection to " + server + " was broken off";
+            reason = "the connection to the table service was broken off";
             break;
         case ERROR_WINHTTP_SECURE_FAILURE:
         case ERROR_WINHTTP_SECURE_CERT_CN_INVALID:
@@ -73,11 +70,12 @@ zlCloudResult networkFailure(const zlHttpRequest& request, const char* step) {
         case ERROR_WINHTTP_SECURE_INVALID_CA:
         case ERROR_WINHTTP_SECURE_INVALID_CERT:
         case ERROR_WINHTTP_SECURE_CHANNEL_ERROR:
-            reason = "the secure (TLS) connection to " + server + " failed (error " +
-                     std::to_string(error) + ")";
+            reason =
+                "the secure (TLS 1.2 or later) connection to the table service failed (error " +
+                std::to_string(error) + ")";
             break;
         case ERROR_WINHTTP_INVALID_SERVER_RESPONSE:
-            reason = "the answer of " + server + " was not HTTP";
+            reason = "the answer of the table service was not HTTP";
             break;
         default:
             reason = std::string("the network request failed while ") + step + " (error " +
@@ -85,6 +83,18 @@ zlCloudResult networkFailure(const zlHttpRequest& request, const char* step) {
             break;
     }
     return zlCloudFailure(zlCloudNetworkFailed, reason);
+}
+
+// TLS 1.2 or later only. A WinHTTP that does not know the 1.3 flag refuses the pair; it
+// then gets 1.2 alone.
+bool requireModernTls(HINTERNET session) {
+    DWORD protocols = WINHTTP_FLAG_SECURE_PROTOCOL_TLS1_2 | WINHTTP_FLAG_SECURE_PROTOCOL_TLS1_3;
+    if (WinHttpSetOption(session, WINHTTP_OPTION_SECURE_PROTOCOLS, &protocols, sizeof protocols)) {
+        return true;
+    }
+    protocols = WINHTTP_FLAG_SECURE_PROTOCOL_TLS1_2;
+    return WinHttpSetOption(session, WINHTTP_OPTION_SECURE_PROTOCOLS, &protocols,
+                            sizeof protocols) != FALSE;
 }
 
 class zlWinHttpTransport : public zlHttpTransport {
@@ -99,22 +109,25 @@ class zlWinHttpTransport : public zlHttpTransport {
         Handle session(WinHttpOpen(L"Zelto", WINHTTP_ACCESS_TYPE_DEFAULT_PROXY,
                                    WINHTTP_NO_PROXY_NAME, WINHTTP_NO_PROXY_BYPASS, 0));
         if (!session) {
-            return networkFailure(request, "opening a session");
+            return networkFailure("opening a session");
         }
         if (!WinHttpSetTimeouts(session.get(), timeouts_.resolve, timeouts_.connect, timeouts_.send,
                                 timeouts_.receive)) {
-            return networkFailure(request, "setting the time limits");
+            return networkFailure("setting the time limits");
         }
         // Waiting for the answer's headers has its own limit, unbounded in some versions.
         DWORD responseWait = static_cast<DWORD>(timeouts_.receive);
         if (!WinHttpSetOption(session.get(), WINHTTP_OPTION_RECEIVE_RESPONSE_TIMEOUT, &responseWait,
                               sizeof responseWait)) {
-            return networkFailure(request, "setting the time limits");
+            return networkFailure("setting the time limits");
+        }
+        if (!requireModernTls(session.get())) {
+            return networkFailure("requiring TLS 1.2 or later");
         }
         Handle connection(WinHttpConnect(session.get(), wide(request.server.host).c_str(),
                                          static_cast<INTERNET_PORT>(request.server.port), 0));
         if (!connection) {
-            return networkFailure(request, "connecting");
+            return networkFailure("connecting");
         }
         // The path goes out as it was signed: no escaping of its own.
         DWORD flags = WINHTTP_FLAG_ESCAPE_DISABLE | WINHTTP_FLAG_ESCAPE_DISABLE_QUERY;
@@ -125,41 +138,44 @@ class zlWinHttpTransport : public zlHttpTransport {
                                        wide(request.pathAndQuery).c_str(), nullptr,
                                        WINHTTP_NO_REFERER, WINHTTP_DEFAULT_ACCEPT_TYPES, flags));
         if (!call) {
-            return networkFailure(request, "opening the request");
+            return networkFailure("opening the request");
         }
-        std::string headers;
+        // The signed Authorization header must never reach a host that a redirect names.
+        DWORD redirects = WINHTTP_OPTION_REDIRECT_POLICY_NEVER;
+        if (!WinHttpSetOption(call.get(), WINHTTP_OPTION_REDIRECT_POLICY, &redirects,
+                              sizeof redirects)) {
+            return networkFailure("turning off redirects");
+        }
+        // One header a call: with the replace flag that is all the call takes.
         for (const auto& field : request.headers) {
-            headers += field.first + ": " + field.second + "\r\n";
-        }
-        const std::wstring wideHeaders = wide(headers);
-        if (!wideHeaders.empty() &&
-            !WinHttpAddRequestHeaders(call.get(), wideHeaders.c_str(),
-                                      static_cast<DWORD>(wideHeaders.size()),
-                                      WINHTTP_ADDREQ_FLAG_ADD | WINHTTP_ADDREQ_FLAG_REPLACE)) {
-            return networkFailure(request, "adding the headers");
+            const std::wstring line = wide(field.first + ": " + field.second);
+            if (!WinHttpAddRequestHeaders(call.get(), line.c_str(), static_cast<DWORD>(line.size()),
+                                          WINHTTP_ADDREQ_FLAG_ADD | WINHTTP_ADDREQ_FLAG_REPLACE)) {
+                return networkFailure("adding the headers");
+            }
         }
         const auto length = static_cast<DWORD>(request.body.size());
         LPVOID body =
             length == 0 ? WINHTTP_NO_REQUEST_DATA : const_cast<char*>(request.body.data());
         if (!WinHttpSendRequest(call.get(), WINHTTP_NO_ADDITIONAL_HEADERS, 0, body, length, length,
                                 0)) {
-            return networkFailure(request, "sending");
+            return networkFailure("sending");
         }
         if (!WinHttpReceiveResponse(call.get(), nullptr)) {
-            return networkFailure(request, "waiting for the answer");
+            return networkFailure("waiting for the answer");
         }
         DWORD status = 0;
         DWORD size = sizeof status;
         if (!WinHttpQueryHeaders(call.get(), WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER,
                                  WINHTTP_HEADER_NAME_BY_INDEX, &status, &size,
                                  WINHTTP_NO_HEADER_INDEX)) {
-            return networkFailure(request, "reading the status");
+            return networkFailure("reading the status");
         }
         std::string answer;
         for (;;) {
             DWORD available = 0;
             if (!WinHttpQueryDataAvailable(call.get(), &available)) {
-                return networkFailure(request, "reading the answer");
+                return networkFailure("reading the answer");
             }
             if (available == 0 || answer.size() >= kMaxResponseBytes) {
                 break;
@@ -168,7 +184,7 @@ class zlWinHttpTransport : public zlHttpTransport {
             answer.resize(start + available);
             DWORD read = 0;
             if (!WinHttpReadData(call.get(), &answer[start], available, &read)) {
-                return networkFailure(request, "reading the answer");
+                return networkFailure("reading the answer");
             }
             answer.resize(start + read);
             if (read == 0) {

@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <iterator>
 
 #include "app/zlTexts.h"
+#include "cloud/zlCloudConfig.h"
+#include "cloud/zlCloudExport.h"
+#include "cloud/zlConnectionString.h"
 #include "support/test_util.h"
 
 using namespace Zelto;
@@ -187,6 +191,72 @@ TEST_F(CliTest, RefusedOptionsAskForNothing) {
         EXPECT_EQ(0u, secretsRead) << c.first[0];
         EXPECT_EQ(0u, r.err.find(c.second.empty() ? "ERROR: " : c.second)) << r.err;
     }
+}
+
+void setConnectionString(const std::string& value) {
+#ifdef _WIN32
+    _putenv_s(zlCloudConnectionStringVariable, value.c_str());
+#else
+    if (value.empty())
+        unsetenv(zlCloudConnectionStringVariable);
+    else
+        setenv(zlCloudConnectionStringVariable, value.c_str(), 1);
+#endif
+}
+
+// An account key in the wrong place of a connection string: neither the parser's reason,
+// nor the status line made of it, nor the command line's export shows any 8 characters of it.
+TEST_F(CliTest, NoPartOfAMisplacedAccountKeyIsEverShown) {
+    makeFile();
+    const std::string k =
+        "Eby8vdM02xNOcqFlqUwJPLlmEtlCDXJ1OUzFT50uSRZ6IFsuFq2UVErCz4I6tq/K1SZFPTOtr/KBHBeksoGMGw==";
+    const std::string named = "AccountName=abc;AccountKey=" + k;
+    const std::string texts[] = {
+        k,
+        "AccountName=abc;" + k,
+        k + ";AccountName=abc",
+        "AccountName=abc;AccountKey" + k,
+        "AccountName=abc;AccountKey:" + k,
+        "AccountName=abc;Account Key=" + k,
+        "AccountName=abc;AccountKey=" + k.substr(0, 40) + ";" + k.substr(40),
+        "AccountName=abc;AccountKey=" + k.substr(0, 44) + "\n" + k.substr(44),
+        "AccountName=abc;AccountKey=" + k + "x",
+        "AccountName=abc;AccountKey=" + k.substr(2),
+        "AccountName=abc;AccountKey='" + k + "'",
+        "AccountName=abc;AccountKey=\"" + k + "\"",
+        "AccountName=" + k + ";AccountKey=" + k,
+        "AccountName=" + k.substr(0, 62),
+        named + ";AccountKey=" + k,
+        named + ";EndpointSuffix=" + k,
+        named + ";EndpointSuffix=core.windows.net/" + k,
+        named + ";TableEndpoint=" + k,
+        named + ";TableEndpoint=ftp://" + k,
+        named + ";TableEndpoint=http://h/" + k + "?x",
+        named + ";BlobEndpoint" + k,
+        "DefaultEndpointsProtocol=" + k + ";" + named,
+        "UseDevelopmentStorage=" + k,
+        "SharedAccessSignature=" + k,
+    };
+    auto showsKey = [&](const std::string& text) {
+        for (size_t at = 0; at + 8 <= k.size(); ++at)
+            if (text.find(k.substr(at, 8)) != std::string::npos)
+                return true;
+        return false;
+    };
+    const char* saved = std::getenv(zlCloudConnectionStringVariable);
+    const std::string before = saved ? saved : "";
+    for (const std::string& text : texts) {
+        zlStorageAccount account;
+        const zlCloudResult parsed = zlParseConnectionString(text, account);
+        EXPECT_EQ(zlCloudBadConnectionString, parsed.code) << parsed.reason;
+        EXPECT_FALSE(showsKey(parsed.reason)) << parsed.reason;
+        EXPECT_FALSE(showsKey(zlCloudStatusText(parsed).to_utf8().str()));
+        setConnectionString(text);
+        const Result r = run({"export"}, {kMaster});
+        EXPECT_EQ(4, r.status) << r.err;
+        EXPECT_FALSE(showsKey(r.out + r.err)) << r.err;
+    }
+    setConnectionString(before);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // New, edit, delete, copy and open through the real buttons of the main window, with the
 // dialogs and questions they open answered as a user would, and the file checked on disk.
 #include <cstring>
+#include <functional>
 
 #include "app/zlKeyFields.h"
 #include "commandFixture.h"
@@ -191,6 +192,36 @@ TEST_F(KeyCommands, TheClipboardIsClearedOnlyWhileItHoldsOurText) {
     for (int i = 0; i < 10; ++i)
         window->tick();
     EXPECT_EQ(L"secret2", clipboardText());
+}
+
+// Exit, the close box and a cancelled lock all end the program through the window's end:
+// the copied password goes with it, but another program's text stays.
+TEST_F(KeyCommands, TheProgramsEndTakesOnlyItsOwnTextOffTheClipboard) {
+    threeKeys();
+    struct Case {
+        const char* how;
+        std::function<void()> end;
+        const wchar_t* other;  // put there by another program after the copy
+    };
+    const Case cases[] = {
+        {"Exit", [&] { command(IDM_EXIT); }, nullptr},
+        {"close box", [&] { SendMessageW(main(), WM_CLOSE, 0, 0); }, nullptr},
+        {"lock cancelled", [&] { pressWith(idLockButton, {answer(IDCANCEL)}); }, nullptr},
+        {"Exit", [&] { command(IDM_EXIT); }, L"from another program"},
+    };
+    for (const Case& c : cases) {
+        if (!main())
+            open();
+        selectRow(0);
+        press(idCopyPassword);
+        if (c.other)
+            putOnClipboard(c.other);
+        c.end();
+        EXPECT_EQ(nullptr, main()) << c.how;
+        EXPECT_EQ(c.other ? c.other : L"", clipboardText()) << c.how;
+        pump();  // the quit message of the window's end
+    }
+    EXPECT_EQ(std::vector<UINT>{0}, exitCodes());
 }
 
 intptr_t g_shellResult = 33;

@@ -184,6 +184,65 @@ TEST_F(Tick, ALockWhileTheEditDialogIsOpenHidesItUntilTheRightPassword) {
     EXPECT_TRUE(IsWindowEnabled(main()));
 }
 
+// A text that is no UTF-8 password (a lone surrogate before or after a right one) is a
+// wrong password: the login comes again.
+TEST_F(Tick, ALoginWithALoneSurrogateAsksAgain) {
+    int logins = 0;
+    auto count = [&](HWND) { ++logins; };
+    ASSERT_TRUE(
+        pressWith(idLockButton, {count,
+                                 login(L"\xD800"
+                                       L"8bytes!!"),
+                                 count, login(L"8bytes!!\xD800"), count, login(L"8bytes!!")}));
+    EXPECT_EQ(3, logins);
+    EXPECT_TRUE(exitCodes().empty());
+}
+
+// The session's lock and the machine's suspend lock the window; other news of the session
+// and of power do not. While the keys are re-enciphered the lock waits for the next tick.
+TEST_F(Tick, TheSessionsLockAndASuspendLockTheWindow) {
+    struct Case {
+        UINT message;
+        WPARAM what;
+        bool locks;
+    };
+    const Case cases[] = {
+        {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, true},
+        {WM_POWERBROADCAST, PBT_APMSUSPEND, true},
+        {WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK, false},
+        {WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC, false},
+    };
+    for (const Case& c : cases) {
+        bool locked = false;
+        std::vector<DialogStep> steps;
+        if (c.locks)
+            steps = {[&](HWND) { locked = mainWindowGlobals().locked; }, login(L"8bytes!!")};
+        EXPECT_TRUE(runWithModals(
+            [&] {
+                SendMessageW(main(), c.message, c.what, 0);
+                pump();
+            },
+            steps))
+            << c.message << " " << c.what;
+        EXPECT_EQ(c.locks, locked) << c.message << " " << c.what;
+        EXPECT_TRUE(exitCodes().empty());
+    }
+
+    mainWindowGlobals().paused = true;
+    EXPECT_TRUE(runWithModals(
+        [&] {
+            SendMessageW(main(), WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0);
+            pump();
+        },
+        {}));
+    EXPECT_TRUE(exitCodes().empty()) << "no login while paused";
+    mainWindowGlobals().paused = false;
+    bool asked = false;
+    EXPECT_TRUE(runWithModals([&] { window->onTimer(); },
+                              {[&](HWND) { asked = true; }, login(L"8bytes!!")}));
+    EXPECT_TRUE(asked);
+}
+
 TEST_F(Tick, CancellingTheLoginEndsTheProgramWithZero) {
     ASSERT_TRUE(pressWith(idLockButton, {answer(IDCANCEL)}));
     EXPECT_EQ(std::vector<UINT>{0}, exitCodes());

@@ -249,6 +249,19 @@ ends_with_zero
 cmp -s "$first/Zelto.xml" "$work/key-file-before" || fail "the key file changed"
 ok
 
+step="a login text with a lone surrogate is a wrong password, not an empty one"
+for text in "\\uD800$password" "$password\\uD800"; do
+  start "$first"
+  need_window "$login_title"
+  click_child 1006
+  wine "$probe" settext "Zelto (2.2.1) - LogIn" 1006 "$text" >/dev/null 2>&1 || fail "no login edit"
+  expect_shown 'child 1 Button "OK"'
+  press Return
+  message "ERROR: Incorrect password"
+  ends_with_zero
+done
+ok
+
 step="empty login ends silently"
 start "$first"
 login ""

@@ -7,9 +7,13 @@
 //           item "<text>" [selected]
 //   windowProbe close TITLE  asks the visible top-level window titled TITLE to close, as
 //                          its close box would; exit status 1 when there is none.
+//   windowProbe settext TITLE ID TEXT  sets the text of child ID of that window as
+//                          WM_SETTEXT does; \uXXXX in TEXT stands for one UTF-16 unit, so
+//                          that texts no keyboard types (a lone surrogate) can be given.
 #include <windows.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -88,6 +92,20 @@ BOOL CALLBACK printWindow(HWND window, LPARAM) {
     return TRUE;
 }
 
+// TEXT with each \uXXXX replaced by that UTF-16 unit.
+std::wstring unescaped(const std::wstring& text) {
+    std::wstring out;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text.compare(i, 2, L"\\u") == 0 && i + 6 <= text.size()) {
+            out += static_cast<wchar_t>(std::wcstoul(text.substr(i + 2, 4).c_str(), nullptr, 16));
+            i += 5;
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
@@ -98,8 +116,17 @@ int wmain(int argc, wchar_t** argv) {
         PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
         return 0;
     }
+    if (argc == 5 && lstrcmpW(argv[1], L"settext") == 0) {
+        HWND window = FindWindowW(nullptr, argv[2]);
+        HWND child = window ? GetDlgItem(window, _wtoi(argv[3])) : nullptr;
+        if (!child)
+            return 1;
+        const std::wstring text = unescaped(argv[4]);
+        SendMessageW(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        return 0;
+    }
     if (argc != 1) {
-        std::fprintf(stderr, "usage: windowProbe [close TITLE]\n");
+        std::fprintf(stderr, "usage: windowProbe [close TITLE | settext TITLE ID TEXT]\n");
         return 2;
     }
     EnumWindows(&printWindow, 0);
