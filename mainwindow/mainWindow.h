@@ -10,6 +10,7 @@
 #include "core/dm_stringlist.h"
 #include "app/zlFileSet.h"
 #include "mainwindow/mainWindowControls.h"
+#include "mainwindow/mainWindowListRows.h"
 #include "mainwindow/mainWindowStatus.h"
 #include "model/zlKeyFile.h"
 #include "ui/wndTimer.h"
@@ -89,6 +90,8 @@ class mainWindow {
     LRESULT onColorStatic(HDC dc, HWND child) const;
     void onScrollMessage(WPARAM wParam, LPARAM lParam);
     void fillFilterBox(const dunmar::dm_stringlist& labels);
+    // The masked texts of the key rows for a partial-show position.
+    std::vector<dunmar::dm_string> rowTexts(int32_t position);
     int textHeight() const;
 
     zlFileItemKey* selectedKey() const;
@@ -118,6 +121,7 @@ class mainWindow {
     mainWindowStatus status_;
     dunmar::dm_string filter_;
     std::vector<zlFileItemKey*> rows_;
+    mainWindowListRows listRows_;  // deciphered labels and written rows, for fast rewrites
 
     zlKeyFile& file_;
     dunmar::dm_string titleSuffix_;

@@ -1,4 +1,5 @@
 #include <string>
+#include <unordered_set>
 
 #include "app/zlKeyFilter.h"
 #include "app/zlKeyRows.h"
@@ -14,7 +15,6 @@ using dunmar::dm_string;
 
 namespace {
 
-constexpr const wchar_t* kPlaceholderRow = L"----";
 constexpr const wchar_t* kNoKeysRow = L"No keys found!";
 constexpr int32_t kCustomScrollTicks = 10;
 
@@ -26,26 +26,13 @@ void addRow(HWND list, const wchar_t* text) {
     SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
 }
 
-// Drawing of the list stops while its rows are rebuilt and resumes, with the selection
-// it had, when the object goes.
-class frozenList {
-  public:
-    explicit frozenList(const dunmar::controlList& list)
-        : list_(list), selected_(selectedIndex(list.handle())) {
-        LockWindowUpdate(list_.handle());
+bool contains(const dunmar::dm_stringlist& list, const dm_string& text) {
+    for (const dm_string& item : list) {
+        if (item.equals(text))
+            return true;
     }
-    ~frozenList() {
-        list_.selectIndex(selected_);
-        LockWindowUpdate(nullptr);
-        UpdateWindow(list_.handle());
-    }
-    frozenList(const frozenList&) = delete;
-    frozenList& operator=(const frozenList&) = delete;
-
-  private:
-    const dunmar::controlList& list_;
-    int selected_;
-};
+    return false;
+}
 
 }  // namespace
 
@@ -55,25 +42,28 @@ int mainWindow::fill() {
     mainWindowControls& c = *controls_;
     const zlFileItemKeys* keys = file_.keys();
     const std::vector<zlFileItemKey*> all = zlKeysOf(keys);
-    {
-        frozenList frozen(c.keyList);
-        SendMessageW(c.keyList.handle(), LB_RESETCONTENT, 0, 0);
-        rows_.clear();
-        if (!all.empty()) {
-            for (zlFileItemKey* key : all) {
-                if (!zlLabelMatches(zlKeyLabel(*key), filter_))
-                    continue;
-                addRow(c.keyList.handle(), kPlaceholderRow);
-                rows_.push_back(key);
+    rows_.clear();
+    listRows_.keepOnly(all);
+    if (!all.empty()) {
+        dunmar::dm_stringlist labels;
+        std::unordered_set<dunmar::dm_wstring> seen;
+        for (zlFileItemKey* key : all) {
+            const dunmar::dm_stringlist pieces = zlLabelPieces(listRows_.labelOf(*key));
+            for (const dm_string& piece : pieces) {
+                if (seen.insert(piece.str()).second)
+                    labels.append(piece);
             }
-            fillFilterBox(zlCollectLabels(keys));
+            if (filter_.empty() || contains(pieces, filter_))
+                rows_.push_back(key);
         }
+        fillFilterBox(labels);
     }
 
     dunmar::controlScrollBar& bar = c.partialShow;
     bar.maximum = zlPartialShowMaximum(keys);
     SetScrollRange(bar.handle(), SB_CTL, bar.minimum, bar.maximum, TRUE);
-    render(bar.position);
+    // Like a new list: it starts at its first row, with the selected row in view.
+    listRows_.write(c.keyList.handle(), rowTexts(bar.position), false);
 
     if (all.empty()) {
         // Added after the masking, so it is never masked.
@@ -95,20 +85,22 @@ void mainWindow::fillFilterBox(const dunmar::dm_stringlist& labels) {
     box.selectIndex(selected);
 }
 
+std::vector<dm_string> mainWindow::rowTexts(int32_t position) {
+    std::vector<dm_string> texts;
+    texts.reserve(rows_.size());
+    for (const zlFileItemKey* key : rows_)
+        texts.push_back(zlMaskRow(listRows_.textOf(*key), position));
+    return texts;
+}
+
 bool mainWindow::render(int32_t position) {
     HWND list = controls_->keyList.handle();
     if (!window_ || !list)
         return false;
-    if (controls_->keyList.count() == 0)
+    // Without key rows the list holds at most "No keys found!", which stays unmasked.
+    if (controls_->keyList.count() == 0 || rows_.empty())
         return true;
-    frozenList frozen(controls_->keyList);
-    for (size_t i = 0; i < rows_.size(); ++i) {
-        const zlFileItemKey* key = rows_[i];
-        const dm_string text =
-            zlMaskRow(zlRowText(key->plainName().to_wide(), zlKeyLabel(*key)), position);
-        SendMessageW(list, LB_INSERTSTRING, i, reinterpret_cast<LPARAM>(text.c_str()));
-        SendMessageW(list, LB_DELETESTRING, i + 1, 0);
-    }
+    listRows_.write(list, rowTexts(position), true);
     return true;
 }
 

@@ -185,6 +185,15 @@ if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix"; 
   # --- end of the cloud export block ---
   run_ctest windows
   zelto_stop_azurite  # cloud export
+  # --- key list benchmark: prints its timings, counts as passed when it runs through ---
+  note "key list benchmark under Wine (1,000 and 10,000 keys)"
+  if WINEPREFIX=$root/build/windows/wineprefix scripts/wine-run.sh \
+      build/windows/bench/zelto_list_bench.exe; then
+    passed=$((passed + 1))
+  else
+    fail_step "key list benchmark"
+  fi
+  # --- end of the key list benchmark ---
   WINEPREFIX=$root/build/windows/wineprefix wineserver -k 2>/dev/null || true
 else
   fail_step "starting Xvfb and Wine"

@@ -33,6 +33,27 @@ std::vector<dm_string> itemTexts(HWND list, bool& ok) {
     return texts;
 }
 
+// Reading a window property asks the window server (Wine's too), and a list box gets a
+// message per row when it is filled: the procedure of the list last asked is kept here.
+struct knownList {
+    HWND list = nullptr;
+    WNDPROC previous = nullptr;
+};
+thread_local knownList lastList;
+
+WNDPROC previousProcedure(HWND list) {
+    if (lastList.list != list || !lastList.previous) {
+        lastList.previous = reinterpret_cast<WNDPROC>(GetPropW(list, kOriginalProcProperty));
+        lastList.list = list;
+    }
+    return lastList.previous;
+}
+
+void forgetList(HWND list) {
+    if (lastList.list == list)
+        lastList = knownList();
+}
+
 }  // namespace
 
 int typeAheadIndex(const std::vector<dm_string>& texts, wchar_t typed) {
@@ -83,17 +104,19 @@ bool installListTypeAhead(HWND list) {
     if (current == reinterpret_cast<LONG_PTR>(&listTypeAheadProc))
         return true;
     SetPropW(list, kOriginalProcProperty, reinterpret_cast<HANDLE>(current));
+    forgetList(list);
     SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&listTypeAheadProc));
     return true;
 }
 
 LRESULT CALLBACK listTypeAheadProc(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto previous = reinterpret_cast<WNDPROC>(GetPropW(list, kOriginalProcProperty));
+    const WNDPROC previous = previousProcedure(list);
     if (!previous)
         return 0;
     if (message == WM_DESTROY) {
         SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(previous));
         RemovePropW(list, kOriginalProcProperty);
+        forgetList(list);
     } else if (message == WM_CHAR && isTypeAheadCharacter(wParam)) {
         // Consumed: the list box's own prefix search would move the selection again.
         listTypeAhead(list, static_cast<wchar_t>(wParam));

@@ -103,6 +103,35 @@ TEST_F(KeyList, FilterThatNoKeyCarriesLeavesTheListEmpty) {
     EXPECT_EQ((Rows{L"", L"cash", L"work"}), filterItems());
 }
 
+// A step of the bar rewrites every row, an edited label only its own: both keep the rows in
+// order, the selection and (on the step) the row at the top.
+TEST_F(KeyList, RewritesKeepTheSelectionAndTheTopRow) {
+    std::vector<zlFileItemKey*> keys;
+    Rows clear;
+    for (int i = 0; i < 30; ++i) {
+        const std::string name = "Key" + std::to_string(i);
+        keys.push_back(addKey(name.c_str(), "a"));
+        clear.push_back(std::wstring(name.begin(), name.end()) + L" (a)");
+    }
+    open();
+    HWND list = child(idKeyList);
+    selectRow(13);
+    SendMessageW(list, LB_SETTOPINDEX, 12, 0);
+    scroll(SB_RIGHT);
+    EXPECT_EQ(clear, rows());
+    EXPECT_EQ(13, SendMessageW(list, LB_GETCURSEL, 0, 0));
+    EXPECT_EQ(12, SendMessageW(list, LB_GETTOPINDEX, 0, 0));
+
+    zlKeyFields fields;
+    ASSERT_TRUE(zlReadKeyFields(*keys[3], fields));
+    fields.value[1] = dunmar::dm_utf8_str("b");
+    ASSERT_TRUE(zlStoreKeyFields(*keys[3], fields));
+    EXPECT_EQ(30, window->fill());
+    clear[3] = L"Key3 (b)";
+    EXPECT_EQ(clear, rows());
+    EXPECT_EQ(13, SendMessageW(list, LB_GETCURSEL, 0, 0));
+}
+
 TEST_F(KeyList, EmptyFileShowsOneUnmaskedRow) {
     addEmptyKeyList();
     open();
