@@ -5,7 +5,7 @@
 #include "cloud/cloudTestSupport.h"
 #include "cloud/tableReader.h"
 #include "cloud/zlCloudConfig.h"
-#include "commandFixture.h"
+#include "mainWindowFixture.h"
 
 using namespace ztest;
 using namespace Zelto;
@@ -29,10 +29,10 @@ class ConnectionScope {
     std::string old_;
 };
 
-class WindowExport : public CommandTest {
+class WindowExport : public MainWindowTest {
   protected:
     void SetUp() override {
-        CommandTest::SetUp();
+        MainWindowTest::SetUp();
         const std::string connectionString = ztest::tableServiceConnectionString();
         if (connectionString.empty()) {
             if (ztest::underCi())
@@ -55,7 +55,7 @@ class WindowExport : public CommandTest {
             const std::string name = "account " + std::to_string(i);
             ASSERT_NE(nullptr, addKey(name.c_str(), "label"));
         }
-        save();
+        ASSERT_EQ(zlSaved, zlSaveKeyFile(file));
         open();
     }
     ReadBack read() { return readEntity(*transport, account, lastName, email); }
