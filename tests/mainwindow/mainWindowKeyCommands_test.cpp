@@ -35,20 +35,13 @@ void putOnClipboard(const std::wstring& text) {
 }
 
 // The DWORD value of the registered clipboard format of that name; -1 when it is missing.
-int64_t formatValue(const wchar_t* wanted) {
+int64_t formatValue(const wchar_t* name) {
     int64_t value = -1;
     if (!OpenClipboard(nullptr))
         return value;
-    for (UINT format = EnumClipboardFormats(0); format; format = EnumClipboardFormats(format)) {
-        wchar_t name[128] = {};
-        if (format >= 0xC000 && GetClipboardFormatNameW(format, name, 128) &&
-            std::wstring(name) == wanted) {
-            DWORD bytes = 0xFFFFFFFF;
-            HANDLE data = GetClipboardData(format);
-            std::memcpy(&bytes, GlobalLock(data), sizeof(bytes));
-            GlobalUnlock(data);
-            value = bytes;
-        }
+    if (HANDLE data = GetClipboardData(RegisterClipboardFormatW(name))) {
+        value = *static_cast<const DWORD*>(GlobalLock(data));
+        GlobalUnlock(data);
     }
     CloseClipboard();
     return value;
