@@ -1,7 +1,6 @@
 // The key list: its rows and their masking, the label filter, the partial-show bar and the
 // selection with its status line.
-#include <string>
-#include <vector>
+#include <algorithm>
 
 #include "mainWindowFixture.h"
 
@@ -11,81 +10,91 @@ using namespace Zelto;
 namespace {
 
 const wchar_t* kLongName = L"abcdefghijklmnopqrstuvwxyz0123";  // 30 characters
+// Rows in full: 18, 24, 13, 4 and 37 characters.
+const Rows kFull = {L"Bank (money, home)", L"Mail ( work, home ,work)", L"Office (Work)", L"Post",
+                    std::wstring(kLongName) + L" (work)"};
+const Rows kLabels = {L"", L"money", L"home", L"work", L"home ", L"Work"};
 
 // The first characters of a row, then one star for each character hidden.
-std::wstring shown(const wchar_t* start, size_t hidden) {
-    return std::wstring(start) + std::wstring(hidden, L'*');
+std::wstring shown(const std::wstring& row, size_t position) {
+    return row.substr(0, position) +
+           std::wstring(row.size() - std::min(position, row.size()), L'*');
+}
+Rows masked(const Rows& full, size_t position) {
+    Rows out;
+    for (const std::wstring& row : full)
+        out.push_back(shown(row, position));
+    return out;
 }
 
 class KeyList : public MainWindowTest {
   protected:
     // Labels as people write them: blanks after commas, a repeated label, a capital.
-    void addSampleKeys() {
+    void openSample() {
         addKeys({{"Bank", "money, home"},
                  {"Mail", " work, home ,work"},
                  {"Office", "Work"},
                  {"Post", ""},
                  {"abcdefghijklmnopqrstuvwxyz0123", "work"}});
+        open();
+    }
+    std::pair<int, int> barRange() const {
+        int low = -1, high = -1;
+        SendMessageW(child(idPartialShow), SBM_GETRANGE, reinterpret_cast<WPARAM>(&low),
+                     reinterpret_cast<LPARAM>(&high));
+        return {low, high};
+    }
+    void expectKeyButtons(bool on) {
+        for (int id :
+             {idEditButton, idDeleteButton, idCopyUser, idCopyPassword, idCopyEmail, idOpenButton})
+            EXPECT_EQ(on, enabled(id)) << id;
+        EXPECT_TRUE(enabled(idStayTop));
+        EXPECT_TRUE(enabled(idNewButton));
     }
 };
 
-TEST_F(KeyList, RowsShowTheFirstTwoCharactersAndTheFilterBoxEveryLabelOnce) {
-    addSampleKeys();
-    open();
+TEST_F(KeyList, RowsAreMaskedFromThePositionAndTheFilterBoxListsEveryLabelOnce) {
+    openSample();
     EXPECT_EQ(5u, window->rowCount());
-    // "Bank (money, home)", "Mail ( work, home ,work)", "Office (Work)", "Post" and the
-    // long name with " (work)": 18, 24, 13, 4 and 37 characters.
-    EXPECT_EQ((Rows{shown(L"Ba", 16), shown(L"Ma", 22), shown(L"Of", 11), shown(L"Po", 2),
-                    shown(L"ab", 35)}),
-              rows());
+    EXPECT_EQ(masked(kFull, 2), rows());
     // The empty item first, then first-met order; "home " keeps its trailing blank.
-    EXPECT_EQ((Rows{L"", L"money", L"home", L"work", L"home ", L"Work"}), filterItems());
+    EXPECT_EQ(kLabels, filterItems());
     EXPECT_EQ(std::make_pair(0, 40), barRange());
     EXPECT_EQ(2, barPosition());
-    EXPECT_EQ(L"Mail", std::wstring(window->keyOfRow(1)->plainName().to_wide().c_str()));
+    EXPECT_EQ(L"Mail", rowKey(1));
     EXPECT_EQ(nullptr, window->keyOfRow(-1));
     EXPECT_EQ(nullptr, window->keyOfRow(5));
-}
-
-TEST_F(KeyList, MaskingFollowsThePosition) {
-    addSampleKeys();
-    open();
-    ASSERT_TRUE(window->render(0));
-    EXPECT_EQ((Rows{shown(L"", 18), shown(L"", 24), shown(L"", 13), shown(L"", 4), shown(L"", 37)}),
-              rows());
-    ASSERT_TRUE(window->render(4));
-    EXPECT_EQ(shown(L"Bank", 14), rows()[0]);
-    EXPECT_EQ(L"Post", rows()[3]);    // as long as the position: nothing left to hide
-    ASSERT_TRUE(window->render(50));  // beyond the longest row
-    EXPECT_EQ((Rows{L"Bank (money, home)", L"Mail ( work, home ,work)", L"Office (Work)", L"Post",
-                    std::wstring(kLongName) + L" (work)"}),
-              rows());
+    for (size_t position : {0, 4, 50}) {  // "Post" is as long as 4: nothing left to hide
+        ASSERT_TRUE(window->render(static_cast<int32_t>(position)));
+        EXPECT_EQ(masked(kFull, position), rows()) << position;
+    }
+    EXPECT_EQ(L"Post", rows()[3]);
+    EXPECT_EQ(kFull, rows());
 }
 
 TEST_F(KeyList, FilterKeepsKeysWithTheExactLabel) {
-    addSampleKeys();
-    open();
-    chooseFilter(3);  // "work"
-    EXPECT_EQ(L"work", std::wstring(window->filterText().c_str()));
-    ASSERT_EQ(2u, window->rowCount());
-    EXPECT_EQ(L"Mail", std::wstring(window->keyOfRow(0)->plainName().to_wide().c_str()));
-    EXPECT_EQ(std::wstring(kLongName),
-              std::wstring(window->keyOfRow(1)->plainName().to_wide().c_str()));
-    EXPECT_EQ((Rows{shown(L"Ma", 22), shown(L"ab", 35)}), rows());
-    // The box still lists every label, with the choice kept.
-    EXPECT_EQ((Rows{L"", L"money", L"home", L"work", L"home ", L"Work"}), filterItems());
-    EXPECT_EQ(3, SendMessageW(child(idFilterBox), CB_GETCURSEL, 0, 0));
-
-    chooseFilter(5);  // "Work" matches the capital only
-    ASSERT_EQ(1u, window->rowCount());
-    EXPECT_EQ(L"Office", std::wstring(window->keyOfRow(0)->plainName().to_wide().c_str()));
-    chooseFilter(4);  // "home " with its blank: only the key that wrote it so
-    ASSERT_EQ(1u, window->rowCount());
-    EXPECT_EQ(L"Mail", std::wstring(window->keyOfRow(0)->plainName().to_wide().c_str()));
-
-    chooseFilter(0);  // the empty item removes the filter
-    EXPECT_TRUE(window->filterText().empty());
-    EXPECT_EQ(5u, window->rowCount());
+    openSample();
+    const struct {
+        int item;
+        const wchar_t* filter;
+        std::vector<std::wstring> keys;
+    } cases[] = {
+        {3, L"work", {L"Mail", kLongName}},
+        {5, L"Work", {L"Office"}},  // the capital only
+        {4, L"home ", {L"Mail"}},   // with its blank: only the key that wrote it so
+        {0, L"", {L"Bank", L"Mail", L"Office", L"Post", kLongName}},  // no filter
+    };
+    for (const auto& c : cases) {
+        chooseFilter(c.item);
+        EXPECT_EQ(c.filter, std::wstring(window->filterText().c_str()));
+        ASSERT_EQ(c.keys.size(), window->rowCount()) << c.item;
+        for (size_t i = 0; i < c.keys.size(); ++i)
+            EXPECT_EQ(c.keys[i], rowKey(static_cast<int>(i)));
+        EXPECT_EQ(kLabels, filterItems()) << "the box still lists every label";
+        EXPECT_EQ(c.item, SendMessageW(child(idFilterBox), CB_GETCURSEL, 0, 0));
+    }
+    chooseFilter(3);
+    EXPECT_EQ((Rows{shown(kFull[1], 2), shown(kFull[4], 2)}), rows());
 }
 
 TEST_F(KeyList, FilterThatNoKeyCarriesLeavesTheListEmpty) {
@@ -132,100 +141,66 @@ TEST_F(KeyList, RewritesKeepTheSelectionAndTheTopRow) {
     EXPECT_EQ(13, SendMessageW(list, LB_GETCURSEL, 0, 0));
 }
 
-TEST_F(KeyList, EmptyFileShowsOneUnmaskedRow) {
-    addEmptyKeyList();
-    open();
-    EXPECT_EQ((Rows{L"No keys found!"}), rows());
-    EXPECT_EQ(0u, window->rowCount());
-    EXPECT_EQ(std::make_pair(0, 20), barRange());
-    scroll(SB_LEFT);
-    EXPECT_EQ((Rows{L"No keys found!"}), rows());
-    EXPECT_EQ(1, window->fill());
-    EXPECT_EQ((Rows{L"No keys found!"}), rows());
-    selectRow(0);
-    EXPECT_FALSE(enabled(idEditButton));
-    EXPECT_FALSE(enabled(idDeleteButton));
-    EXPECT_FALSE(enabled(idCopyPassword));
-    EXPECT_FALSE(enabled(idOpenButton));
-}
-
-TEST_F(KeyList, FileWithoutKeyListShowsTheSameRow) {
-    open();
-    EXPECT_EQ((Rows{L"No keys found!"}), rows());
-    EXPECT_EQ(std::make_pair(0, 20), barRange());
+// With an empty key list, or none at all, one unmasked row that selects nothing.
+TEST_F(KeyList, NoKeysShowOneUnmaskedRow) {
+    for (bool keyList : {false, true}) {
+        if (keyList)
+            addEmptyKeyList();
+        open();
+        EXPECT_EQ((Rows{L"No keys found!"}), rows());
+        EXPECT_EQ(0u, window->rowCount());
+        EXPECT_EQ(std::make_pair(0, 20), barRange());
+        scroll(SB_LEFT);
+        EXPECT_EQ((Rows{L"No keys found!"}), rows());
+        EXPECT_EQ(1, window->fill());
+        EXPECT_EQ((Rows{L"No keys found!"}), rows());
+        selectRow(0);
+        expectKeyButtons(false);
+    }
 }
 
 TEST_F(KeyList, PartialShowBarMovesByLinesPagesAndEnds) {
-    addSampleKeys();
-    open();
-    scroll(SB_LINERIGHT);
-    EXPECT_EQ(3, barPosition());
-    EXPECT_EQ(shown(L"Ban", 15), rows()[0]);
-    scroll(SB_PAGERIGHT);
-    EXPECT_EQ(13, barPosition());
-    EXPECT_EQ(shown(L"Bank (money, ", 5), rows()[0]);
-    scroll(SB_PAGELEFT);
-    scroll(SB_LINELEFT);
-    EXPECT_EQ(2, barPosition());
-    scroll(SB_RIGHT);
-    EXPECT_EQ(40, barPosition());
-    scroll(SB_LINERIGHT);  // held at the end of the range
-    EXPECT_EQ(40, barPosition());
-    EXPECT_EQ(40, mainWindowGlobals().partialPosition);
-    scroll(SB_THUMBTRACK, 5);
-    EXPECT_EQ(5, barPosition());
-    EXPECT_EQ(shown(L"Bank ", 13), rows()[0]);
-    scroll(SB_ENDSCROLL, 30);
-    EXPECT_EQ(5, barPosition());
-    scroll(SB_LEFT);
-    scroll(SB_PAGELEFT);
-    EXPECT_EQ(0, barPosition());
-    EXPECT_EQ(shown(L"", 18), rows()[0]);
-
+    openSample();
+    const struct {
+        int code, position, expected;
+    } moves[] = {
+        {SB_LINERIGHT, 0, 3},  {SB_PAGERIGHT, 0, 13},    {SB_PAGELEFT, 0, 3},
+        {SB_LINELEFT, 0, 2},   {SB_RIGHT, 0, 40},        {SB_LINERIGHT, 0, 40},  // held at the end
+        {SB_THUMBTRACK, 5, 5}, {SB_ENDSCROLL, 30, 5},    {SB_LEFT, 0, 0},
+        {SB_PAGELEFT, 0, 0},   {SB_THUMBPOSITION, 7, 7},
+    };
+    for (const auto& m : moves) {
+        scroll(m.code, m.position);
+        EXPECT_EQ(m.expected, barPosition()) << m.code;
+        EXPECT_EQ(m.expected, mainWindowGlobals().partialPosition) << m.code;
+        EXPECT_EQ(shown(kFull[0], static_cast<size_t>(m.expected)), rows()[0]) << m.code;
+    }
     // A window made anew starts where the last one was left.
-    scroll(SB_THUMBPOSITION, 7);
     ASSERT_TRUE(window->create(GetModuleHandleW(nullptr), SW_SHOWNORMAL));
     EXPECT_EQ(7, barPosition());
-    EXPECT_EQ(shown(L"Bank (m", 11), rows()[0]);
-}
-
-TEST_F(KeyList, OtherScrollBarsOnlyReportOnTheStatusLine) {
-    addSampleKeys();
-    open();
+    EXPECT_EQ(shown(kFull[0], 7), rows()[0]);
+    // Other scroll bars only report on the status line.
     window->onScroll(77, 3);
     EXPECT_EQ(L" OnCustomScroll(77, 3)", statusText());
-    EXPECT_EQ(2, barPosition());
+    EXPECT_EQ(7, barPosition());
 }
 
-TEST_F(KeyList, SelectionEnablesTheKeyButtonsAndNamesTheKey) {
-    addSampleKeys();
-    open();
+TEST_F(KeyList, SelectionEnablesTheKeyButtonsAndNamesTheKeyAsTheSettingSays) {
+    openSample();
     selectRow(4);
     EXPECT_EQ(std::wstring(L" Key \"") + kLongName + L"\" selected", statusText());
     EXPECT_EQ(2, window->status().ticksLeft());
-    for (int id : {idEditButton, idDeleteButton, idCopyUser, idCopyPassword, idCopyEmail,
-                   idOpenButton, idStayTop}) {
-        EXPECT_TRUE(enabled(id)) << id;
-    }
-    // The filter takes the selected row away: nothing is selected, the buttons go off.
-    chooseFilter(5);
+    expectKeyButtons(true);
+    chooseFilter(5);  // the filter takes the selected row away
     selectRow(-1);
-    for (int id :
-         {idEditButton, idDeleteButton, idCopyUser, idCopyPassword, idCopyEmail, idOpenButton}) {
-        EXPECT_FALSE(enabled(id)) << id;
-    }
-    EXPECT_TRUE(enabled(idStayTop));
-    EXPECT_TRUE(enabled(idNewButton));
-}
+    expectKeyButtons(false);
 
-TEST_F(KeyList, SelectionStatusFollowsTheSettingAndTheLanguage) {
-    addSampleKeys();
+    chooseFilter(0);
     settings->showSelectedKey = 0;
-    open();
+    window->status().show(0, {L"before"});
     selectRow(1);
-    EXPECT_EQ(L" Ready", statusText());
+    EXPECT_EQ(L" before", statusText()) << "the key is not named";
     EXPECT_TRUE(enabled(idEditButton));
-
     settings->showSelectedKey = 30;
     zlSetLanguage(zlLanguageGerman);
     selectRow(1);
@@ -234,15 +209,14 @@ TEST_F(KeyList, SelectionStatusFollowsTheSettingAndTheLanguage) {
 }
 
 TEST_F(KeyList, TypingJumpsToTheFirstRowAtOrAfterTheLetter) {
-    addSampleKeys();
-    open();
+    openSample();
     SendMessageW(main(), WM_CHAR, L'n', 1);
-    EXPECT_EQ(2, SendMessageW(child(idKeyList), LB_GETCURSEL, 0, 0));  // "Of..."
+    EXPECT_EQ(2, selected());  // "Of..."
     EXPECT_EQ(L" Key \"Office\" selected", statusText());
     SendMessageW(child(idKeyList), WM_CHAR, L'M', 1);
-    EXPECT_EQ(1, SendMessageW(child(idKeyList), LB_GETCURSEL, 0, 0));
+    EXPECT_EQ(1, selected());
     SendMessageW(main(), WM_CHAR, 13, 1);  // return does not search
-    EXPECT_EQ(1, SendMessageW(child(idKeyList), LB_GETCURSEL, 0, 0));
+    EXPECT_EQ(1, selected());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
-// The one-second tick with a pointer that the test moves and ticks the test gives: the
-// automatic lock, its countdown, the status line's expiry; and the lock itself with its
-// login answered as a user would.
-#include "commandFixture.h"
+// The one-second tick with a pointer the test moves: the automatic lock and its countdown;
+// the lock itself with its login answered as a user would.
+#include "mainWindowFixture.h"
 #include "ui/idleCounters.h"
 
 using namespace ztest;
@@ -15,96 +14,74 @@ RECT frameOf(HWND window) {
     return rect;
 }
 
-SIZE outerSize(HWND window) {
-    RECT rect = {};
-    GetWindowRect(window, &rect);
-    return SIZE{rect.right - rect.left, rect.bottom - rect.top};
-}
-
-// The login in front: the password typed and the button pressed.
-DialogStep login(const wchar_t* password) {
-    return [password](HWND dialog) {
-        setText(dialog, IDC_LOGIN_PASSWORD, password);
-        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_LOGIN_BUTTON, BN_CLICKED), 0);
-    };
-}
-
-class Tick : public CommandTest {
+class Tick : public MainWindowTest {
   protected:
     void SetUp() override {
-        CommandTest::SetUp();
-        addKeys({{"Bank", "money"}});
-        save();
-        open();
+        MainWindowTest::SetUp();
+        openSaved({{"Bank", "money"}});
         mainWindowGlobals().paused = false;
-        // The test gives every tick itself.
-        window->timer().stop();
+        window->timer().stop();  // the test gives every tick itself
+        dunmar::idleTime().reset();
     }
     std::wstring countdown() const { return textOf(child(idCountdown)); }
-    // Ticks n times; a login that opens meanwhile is cancelled, and false returned.
-    bool ticksWithoutLock(int n) {
-        return runWithModals(
-                   [&] {
-                       for (int i = 0; i < n; ++i)
-                           window->onTimer();
-                   },
-                   {}) &&
-               exitCodes().empty();
+    // Runs action; each login it opens gets the next password, a further one is cancelled.
+    // The number of logins seen.
+    int logins(const std::function<void()>& action, std::vector<const wchar_t*> passwords) {
+        int seen = 0;
+        std::vector<DialogStep> steps;
+        for (const wchar_t* password : passwords) {
+            steps.push_back([&](HWND dialog) {
+                ++seen;
+                EXPECT_TRUE(mainWindowGlobals().locked);
+                const RECT login = frameOf(dialog), hidden = frameOf(main());
+                EXPECT_TRUE(EqualRect(&login, &hidden)) << "hidden behind the login";
+            });
+            steps.push_back(login(password));
+        }
+        EXPECT_TRUE(runWithModals(action, steps));
+        return seen;
     }
 };
 
-TEST_F(Tick, AutolockOfFiveOrLessNeverLocks) {
+TEST_F(Tick, AutolockOfFiveOrLessNeverLocksSixLocksAfterSixTicks) {
     for (int seconds : {0, 5}) {
         settings->autolock = seconds;
-        dunmar::idleTime().reset();
-        EXPECT_TRUE(ticksWithoutLock(12)) << seconds;
-        EXPECT_EQ(0, dunmar::idleTime().lock) << seconds;
+        EXPECT_EQ(0, logins(
+                         [&] {
+                             for (int i = 0; i < 12; ++i)
+                                 window->onTimer();
+                         },
+                         {}));
         EXPECT_EQ(L"", countdown());
-        EXPECT_EQ(300, outerSize(main()).cx);
+        EXPECT_TRUE(exitCodes().empty());
     }
-}
-
-TEST_F(Tick, SixLocksAfterSixStillTicksAndTheCountdownShowsTheSecondsLeft) {
     settings->autolock = 6;
     dunmar::idleTime().reset();
     for (int i = 1; i <= 5; ++i) {
         window->onTimer();
         EXPECT_EQ(std::to_wstring(6 - i) + L" s ", countdown());
     }
-    RECT whileLocked = {};
-    RECT loginFrame = {};
-    ASSERT_TRUE(runWithModals([&] { window->onTimer(); }, {[&](HWND dialog) {
-                                                               whileLocked = frameOf(main());
-                                                               loginFrame = frameOf(dialog);
-                                                           },
-                                                           login(L"8bytes!!")}));
-    // Hidden behind the login, on its very rectangle.
-    EXPECT_TRUE(EqualRect(&loginFrame, &whileLocked));
-    EXPECT_LT(whileLocked.bottom - whileLocked.top, 450);
-    EXPECT_EQ(300, outerSize(main()).cx);
-    EXPECT_EQ(450, outerSize(main()).cy);
-    EXPECT_EQ(0, dunmar::idleTime().lock);
+    RECT before = frameOf(main());
+    EXPECT_EQ(1, logins([&] { window->onTimer(); }, {L"8bytes!!"}));
+    RECT after = frameOf(main());
+    EXPECT_TRUE(EqualRect(&before, &after));
     EXPECT_FALSE(mainWindowGlobals().locked);
+    EXPECT_EQ(0, dunmar::idleTime().lock);
     EXPECT_TRUE(window->timer().running()) << "the lock starts the timer again";
 }
 
-TEST_F(Tick, MovingThePointerStartsBothCountsAfresh) {
+TEST_F(Tick, MovingThePointerStartsBothCountsAfreshButNotWhilePaused) {
     settings->autolock = 6;
     settings->autoClearClipboard = 20;
-    dunmar::idleTime().reset();
-    window->onTimer();
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 4; ++i)
         window->onTimer();
     EXPECT_EQ(L"2 s ", countdown());
     EXPECT_EQ(4, dunmar::idleTime().clipboard);
     cursor() = POINT{101, 100};
     window->onTimer();
     EXPECT_EQ(L"5 s ", countdown());
-    EXPECT_EQ(1, dunmar::idleTime().lock);
     EXPECT_EQ(1, dunmar::idleTime().clipboard);
     EXPECT_TRUE(window->timer().running()) << "movement restarts the timer";
-
-    // While paused nothing counts at all.
     mainWindowGlobals().paused = true;
     cursor() = POINT{5, 5};
     window->onTimer();
@@ -120,132 +97,83 @@ TEST_F(Tick, AStatusMessageGivesWayToReadyWhenItsTimeIsUp) {
     EXPECT_EQ(L" three seconds", statusText());
     window->onTimer();
     EXPECT_EQ(L" Ready", statusText());
-    EXPECT_EQ(-1, window->status().ticksLeft());
-
-    window->status().show(0, {L"for good"});
-    EXPECT_TRUE(ticksWithoutLock(5));
-    EXPECT_EQ(L" for good", statusText());
 }
 
-TEST_F(Tick, AWrongPasswordAsksAgainAndTheRightOneRestoresTheWindow) {
-    RECT before = {};
-    GetWindowRect(main(), &before);
-    int logins = 0;
-    RECT whileLocked = {};
-    RECT loginFrame = {};
-    int32_t minimumWhileLocked = 0;
-    auto count = [&](HWND) { ++logins; };
-    ASSERT_TRUE(pressWith(idLockButton, {count,
-                                         [&](HWND dialog) {
-                                             whileLocked = frameOf(main());
-                                             loginFrame = frameOf(dialog);
-                                             minimumWhileLocked = mainWindowGlobals().minTrackWidth;
-                                         },
-                                         login(L"wrongpass"), count, login(L"8bytes!!")}));
-    EXPECT_EQ(2, logins);
-    EXPECT_TRUE(EqualRect(&loginFrame, &whileLocked));
-    EXPECT_EQ(10, minimumWhileLocked);
-    RECT after = {};
-    GetWindowRect(main(), &after);
+// Wrong passwords, and texts that are no UTF-8 password (a lone surrogate before or after a
+// right one), ask again; the right one restores the window and its size limits.
+TEST_F(Tick, TheLockAsksUntilTheRightPasswordAndRestoresTheWindow) {
+    RECT before = frameOf(main());
+    EXPECT_EQ(4, logins([&] { press(idLockButton); }, {L"wrongpass",
+                                                       L"\xD800"
+                                                       L"8bytes!!",
+                                                       L"8bytes!!\xD800", L"8bytes!!"}));
+    RECT after = frameOf(main());
     EXPECT_TRUE(EqualRect(&before, &after));
     EXPECT_EQ(290, mainWindowGlobals().minTrackWidth);
     EXPECT_EQ(435, mainWindowGlobals().minTrackHeight);
     EXPECT_TRUE(exitCodes().empty());
-    // The key file works under the right password again.
-    selectRow(0);
+    selectRow(0);  // the key file reads under the right password again
     EXPECT_EQ(L" Key \"Bank\" selected", statusText());
-
-    // A lock in progress does not start another.
     mainWindowGlobals().locked = true;
-    EXPECT_FALSE(window->lock());
+    EXPECT_FALSE(window->lock()) << "a lock in progress does not start another";
     mainWindowGlobals().locked = false;
+
+    ASSERT_TRUE(pressWith(idLockButton, {answer(IDCANCEL)}));
+    EXPECT_EQ(std::vector<UINT>{0}, exitCodes());
 }
 
 TEST_F(Tick, ALockWhileTheEditDialogIsOpenHidesItUntilTheRightPassword) {
     selectRow(0);
     HWND edit = nullptr;
-    bool hiddenWhileLocked = false;
-    bool shownAfter = false;
-    bool mainEnabledAfter = true;
-    ASSERT_TRUE(pressWith(idEditButton, {[&](HWND dialog) {
-                                             edit = dialog;
-                                             window->lock();  // as the tick would
-                                         },
-                                         [&](HWND) { hiddenWhileLocked = !IsWindowVisible(edit); },
-                                         login(L"8bytes!!"),
-                                         [&](HWND) {
-                                             shownAfter = IsWindowVisible(edit) != FALSE;
-                                             mainEnabledAfter = IsWindowEnabled(main()) != FALSE;
-                                         },
-                                         answer(IDCANCEL)}));
-    EXPECT_TRUE(hiddenWhileLocked);
-    EXPECT_TRUE(shownAfter);
-    EXPECT_FALSE(mainEnabledAfter) << "the edit dialog is still modal over the window";
+    bool hidden = false, shown = false, mainEnabled = true;
+    ASSERT_TRUE(
+        pressWith(idEditButton, {[&](HWND dialog) {
+                                     edit = dialog;
+                                     window->lock();
+                                 },
+                                 [&](HWND) { hidden = !IsWindowVisible(edit); }, login(L"8bytes!!"),
+                                 [&](HWND) {
+                                     shown = IsWindowVisible(edit) != FALSE;
+                                     mainEnabled = IsWindowEnabled(main()) != FALSE;
+                                 },
+                                 answer(IDCANCEL)}));
+    EXPECT_TRUE(hidden);
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(mainEnabled) << "the edit dialog is still modal over the window";
     EXPECT_TRUE(IsWindowEnabled(main()));
 }
 
-// A text that is no UTF-8 password (a lone surrogate before or after a right one) is a
-// wrong password: the login comes again.
-TEST_F(Tick, ALoginWithALoneSurrogateAsksAgain) {
-    int logins = 0;
-    auto count = [&](HWND) { ++logins; };
-    ASSERT_TRUE(
-        pressWith(idLockButton, {count,
-                                 login(L"\xD800"
-                                       L"8bytes!!"),
-                                 count, login(L"8bytes!!\xD800"), count, login(L"8bytes!!")}));
-    EXPECT_EQ(3, logins);
-    EXPECT_TRUE(exitCodes().empty());
-}
-
-// The session's lock and the machine's suspend lock the window; other news of the session
-// and of power do not. While the keys are re-enciphered the lock waits for the next tick.
+// The session's lock and the machine's suspend lock the window; other news does not. While
+// paused (keys being re-enciphered) the lock waits for the next tick.
 TEST_F(Tick, TheSessionsLockAndASuspendLockTheWindow) {
-    struct Case {
+    const struct {
         UINT message;
         WPARAM what;
-        bool locks;
+        int logins;
+    } cases[] = {
+        {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 1},
+        {WM_POWERBROADCAST, PBT_APMSUSPEND, 1},
+        {WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK, 0},
+        {WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC, 0},
     };
-    const Case cases[] = {
-        {WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, true},
-        {WM_POWERBROADCAST, PBT_APMSUSPEND, true},
-        {WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK, false},
-        {WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC, false},
-    };
-    for (const Case& c : cases) {
-        bool locked = false;
-        std::vector<DialogStep> steps;
-        if (c.locks)
-            steps = {[&](HWND) { locked = mainWindowGlobals().locked; }, login(L"8bytes!!")};
-        EXPECT_TRUE(runWithModals(
-            [&] {
-                SendMessageW(main(), c.message, c.what, 0);
-                pump();
-            },
-            steps))
-            << c.message << " " << c.what;
-        EXPECT_EQ(c.locks, locked) << c.message << " " << c.what;
-        EXPECT_TRUE(exitCodes().empty());
-    }
-
-    mainWindowGlobals().paused = true;
-    EXPECT_TRUE(runWithModals(
-        [&] {
-            SendMessageW(main(), WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0);
+    for (const auto& c : cases) {
+        auto send = [&] {
+            SendMessageW(main(), c.message, c.what, 0);
             pump();
-        },
-        {}));
-    EXPECT_TRUE(exitCodes().empty()) << "no login while paused";
+        };
+        EXPECT_EQ(c.logins, logins(send, std::vector<const wchar_t*>(c.logins, L"8bytes!!")))
+            << c.message << " " << c.what;
+    }
+    mainWindowGlobals().paused = true;
+    EXPECT_EQ(0, logins(
+                     [&] {
+                         SendMessageW(main(), WM_WTSSESSION_CHANGE, WTS_SESSION_LOCK, 0);
+                         pump();
+                     },
+                     {}));
     mainWindowGlobals().paused = false;
-    bool asked = false;
-    EXPECT_TRUE(runWithModals([&] { window->onTimer(); },
-                              {[&](HWND) { asked = true; }, login(L"8bytes!!")}));
-    EXPECT_TRUE(asked);
-}
-
-TEST_F(Tick, CancellingTheLoginEndsTheProgramWithZero) {
-    ASSERT_TRUE(pressWith(idLockButton, {answer(IDCANCEL)}));
-    EXPECT_EQ(std::vector<UINT>{0}, exitCodes());
+    EXPECT_EQ(1, logins([&] { window->onTimer(); }, {L"8bytes!!"}));
+    EXPECT_TRUE(exitCodes().empty());
 }
 
 }  // namespace
