@@ -19,6 +19,8 @@ TEST(zlPasswordRules, FirstBrokenRuleGivesTheMessage) {
         {"a" + std::string(126, '7'), ""},  // 127 characters
         {"a" + std::string(127, '7'), "Password size to big"},
         {"1abcdefg", digit},
+        {"9abcdefg", digit},
+        {"a9cdefgh", ""},
         {"_abcdefg", digit},
         {"abcd 1234", invalid},
         {"abcd\xC3\xA4\xC3\xB6\xC3\xBC"

@@ -31,6 +31,7 @@ class StartupRead : public ::testing::Test {
 
     bool read(const char* password) {
         file.set_pass_phrase(password);
+        detail = dm_string(DM_W("left from an earlier read"));
         return zlReadKeyFileWithConversion(file, files, dm_utf8_str(password), detail);
     }
     void write(const std::string& text) { ztest::writeBytes(dir / "Zelto.xml", text); }

@@ -104,6 +104,10 @@ TEST(zlcArgs, UsageLinesOfTheHelpParse) {
     for (const zlcCommandSpec& command : zlcCommands()) {
         const std::string help = zlcCommandHelp(command);
         ASSERT_EQ(0u, help.find("Usage: zelto-cli ")) << help;
+        // Commands that take a KEY say how one is named.
+        EXPECT_EQ(help.find(" KEY") < help.find('\n'),
+                  help.find("KEY is a key's name") != std::string::npos)
+            << help;
         std::istringstream usage(help.substr(17, help.find('\n') - 17));
         std::vector<std::string> argv;
         std::string word;

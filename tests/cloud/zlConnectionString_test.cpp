@@ -13,56 +13,47 @@ namespace {
 
 const std::string kKey = ztest::kDevKey;
 
-zlStorageAccount parsed(const std::string& text) {
-    zlStorageAccount account;
-    const zlCloudResult result = zlParseConnectionString(text, account);
-    EXPECT_TRUE(result.ok()) << text << ": " << result.reason;
-    return account;
-}
-
-TEST(ConnectionString, StandardKeysGiveTheAccountsHttpsEndpoint) {
-    const zlStorageAccount a =
-        parsed("DefaultEndpointsProtocol=https;AccountName=zeltokeys;AccountKey=" + kKey +
-               ";EndpointSuffix=core.windows.net");
-    EXPECT_EQ("zeltokeys", a.accountName);
-    EXPECT_EQ(kKey, a.accountKey);  // split at the first '=' only: the padding stays
-    EXPECT_EQ("https://zeltokeys.table.core.windows.net", a.tableEndpoint);
-    EXPECT_TRUE(a.endpoint.https);
-    EXPECT_EQ("zeltokeys.table.core.windows.net", a.endpoint.host);
-    EXPECT_EQ(443u, a.endpoint.port);
-    EXPECT_EQ("", a.endpoint.path);
-}
-
-TEST(ConnectionString, DefaultsNamesCaseSpacesAndEmptyPairs) {
-    // No protocol means https and no suffix the public one; names ignore case.
-    const zlStorageAccount a =
-        parsed(" accountname=abc ; ACCOUNTKEY=" + kKey + ";;defaultendpointsprotocol=HTTP;\n");
-    EXPECT_EQ("abc", a.accountName);
-    EXPECT_EQ("http://abc.table.core.windows.net", a.tableEndpoint);
-    EXPECT_EQ(80u, a.endpoint.port);
-
-    const zlStorageAccount b =
-        parsed("AccountName=abc;AccountKey=" + kKey + ";EndpointSuffix=core.chinacloudapi.cn");
-    EXPECT_EQ("https://abc.table.core.chinacloudapi.cn", b.tableEndpoint);
-}
-
-TEST(ConnectionString, TableEndpointIsUsedAsItIs) {
-    const zlStorageAccount a = parsed("AccountName=devstoreaccount1;AccountKey=" + kKey +
-                                      ";BlobEndpoint=http://127.0.0.1:10000/x;TableEndpoint=http://"
-                                      "127.0.0.1:19999/devstoreaccount1/");
-    EXPECT_EQ("http://127.0.0.1:19999/devstoreaccount1", a.tableEndpoint);
-    EXPECT_FALSE(a.endpoint.https);
-    EXPECT_EQ("127.0.0.1", a.endpoint.host);
-    EXPECT_EQ(19999u, a.endpoint.port);
-    EXPECT_EQ("/devstoreaccount1", a.endpoint.path);
-}
-
-TEST(ConnectionString, DevelopmentStorageIsTheLocalEmulator) {
-    const zlStorageAccount a = parsed("UseDevelopmentStorage=true");
-    EXPECT_EQ("devstoreaccount1", a.accountName);
-    EXPECT_EQ(kKey, a.accountKey);
-    EXPECT_EQ("http://127.0.0.1:10002/devstoreaccount1", a.tableEndpoint);
-    EXPECT_EQ(10002u, a.endpoint.port);
+// Names ignore case, blanks and empty pairs; the key is split at the first '=' only, so its
+// padding stays. No protocol means https, no suffix the public one.
+TEST(ConnectionString, AccountAndEndpointOfEachForm) {
+    const struct {
+        std::string text;
+        const char* name;
+        const char* endpoint;
+        bool https;
+        const char* host;
+        unsigned port;
+        const char* path;
+    } cases[] = {
+        {"DefaultEndpointsProtocol=https;AccountName=zeltokeys;AccountKey=" + kKey +
+             ";EndpointSuffix=core.windows.net",
+         "zeltokeys", "https://zeltokeys.table.core.windows.net", true,
+         "zeltokeys.table.core.windows.net", 443, ""},
+        {" accountname=abc ; ACCOUNTKEY=" + kKey + ";;defaultendpointsprotocol=HTTP;\n", "abc",
+         "http://abc.table.core.windows.net", false, "abc.table.core.windows.net", 80, ""},
+        {"AccountName=abc;AccountKey=" + kKey + ";EndpointSuffix=core.chinacloudapi.cn", "abc",
+         "https://abc.table.core.chinacloudapi.cn", true, "abc.table.core.chinacloudapi.cn", 443,
+         ""},
+        {"AccountName=devstoreaccount1;AccountKey=" + kKey +
+             ";BlobEndpoint=http://127.0.0.1:10000/x;TableEndpoint=http://127.0.0.1:19999/"
+             "devstoreaccount1/",
+         "devstoreaccount1", "http://127.0.0.1:19999/devstoreaccount1", false, "127.0.0.1", 19999,
+         "/devstoreaccount1"},
+        {"UseDevelopmentStorage=true", "devstoreaccount1",
+         "http://127.0.0.1:10002/devstoreaccount1", false, "127.0.0.1", 10002, "/devstoreaccount1"},
+    };
+    for (const auto& c : cases) {
+        zlStorageAccount a;
+        const zlCloudResult result = zlParseConnectionString(c.text, a);
+        ASSERT_TRUE(result.ok()) << c.text << ": " << result.reason;
+        EXPECT_EQ(c.name, a.accountName);
+        EXPECT_EQ(kKey, a.accountKey);
+        EXPECT_EQ(c.endpoint, a.tableEndpoint);
+        EXPECT_EQ(c.https, a.endpoint.https);
+        EXPECT_EQ(c.host, a.endpoint.host);
+        EXPECT_EQ(c.port, a.endpoint.port);
+        EXPECT_EQ(c.path, a.endpoint.path);
+    }
 }
 
 TEST(ConnectionString, MalformedTextsAreRefusedWithAReasonAndChangeNothing) {
@@ -79,6 +70,7 @@ TEST(ConnectionString, MalformedTextsAreRefusedWithAReasonAndChangeNothing) {
         "AccountName=abc;Colour=blue",
         "AccountName=abc;AccountName=abd",
         "AccountName=a/b",
+        "AccountName=a-b",
         "UseDevelopmentStorage=false",
         "UseDevelopmentStorage=true;AccountName=abc",
         "DefaultEndpointsProtocol=ftp;AccountName=abc",
@@ -92,7 +84,7 @@ TEST(ConnectionString, MalformedTextsAreRefusedWithAReasonAndChangeNothing) {
         std::string full = text;
         // Give each a usable key unless the case is about the key.
         if (full.find("AccountKey") == std::string::npos &&
-            full.find("UseDevelopment") == std::string::npos && !full.empty() &&
+            full.find("UseDevelopment") == std::string::npos &&
             full.find_first_not_of(" ;") != std::string::npos)
             full += key;
         zlStorageAccount account;
@@ -106,14 +98,11 @@ TEST(ConnectionString, MalformedTextsAreRefusedWithAReasonAndChangeNothing) {
 }
 
 TEST(ConnectionString, Base64Check) {
-    EXPECT_TRUE(zlIsBase64(kKey));
-    EXPECT_TRUE(zlIsBase64("QQ=="));
-    EXPECT_TRUE(zlIsBase64("QUI="));
-    EXPECT_FALSE(zlIsBase64("QQ"));
-    EXPECT_FALSE(zlIsBase64("Q==="));
-    EXPECT_FALSE(zlIsBase64("QQ==QQ=="));
-    EXPECT_FALSE(zlIsBase64("QU I="));
-    EXPECT_FALSE(zlIsBase64(""));
+    for (const std::string& good :
+         {kKey, std::string("QQ=="), std::string("QUI="), std::string("+/9z")})
+        EXPECT_TRUE(zlIsBase64(good)) << good;
+    for (const char* bad : {"QQ", "Q===", "QQ==QQ==", "QU I=", "", "QU-_", "QU\xc3\xa4"})
+        EXPECT_FALSE(zlIsBase64(bad)) << bad;
 }
 
 void setVariable(const char* value) {
@@ -130,17 +119,13 @@ void setVariable(const char* value) {
 TEST(ConnectionString, EnvironmentReplacesTheBuiltInOne) {
     const char* saved = std::getenv(zlCloudConnectionStringVariable);
     const std::string before = saved ? saved : "";
-
     setVariable("");
-    const std::string builtIn = zlCloudConnectionString();
     zlStorageAccount account;
-    ASSERT_TRUE(zlParseConnectionString(builtIn, account).ok());
+    ASSERT_TRUE(zlParseConnectionString(zlCloudConnectionString(), account).ok());
     EXPECT_TRUE(account.endpoint.https);
     EXPECT_EQ(88u, account.accountKey.size());
-
     setVariable("UseDevelopmentStorage=true");
     EXPECT_EQ("UseDevelopmentStorage=true", zlCloudConnectionString());
-
     setVariable(before.c_str());
 }
 
