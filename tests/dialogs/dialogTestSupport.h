@@ -19,53 +19,31 @@ inline HINSTANCE thisModule() {
 class ShellRecorder {
   public:
     ShellRecorder() {
-        opened().clear();
-        dunmar::setShellOpenFunction(&record);
+        opened.clear();
+        dunmar::setShellOpenFunction([](HWND, const dunmar::dm_string& target) -> intptr_t {
+            opened.push_back(target.str());
+            return 33;
+        });
     }
     ~ShellRecorder() { dunmar::setShellOpenFunction(nullptr); }
-    const std::vector<std::wstring>& targets() const { return opened(); }
-
-    ShellRecorder(const ShellRecorder&) = delete;
-    ShellRecorder& operator=(const ShellRecorder&) = delete;
+    const std::vector<std::wstring>& targets() const { return opened; }
 
   private:
-    static std::vector<std::wstring>& opened() {
-        static std::vector<std::wstring> list;
-        return list;
-    }
-    static intptr_t record(HWND, const dunmar::dm_string& target) {
-        opened().push_back(target.str());
-        return 33;
-    }
+    static inline std::vector<std::wstring> opened;
 };
 
+// The dialog tests read English unless a test sets another language: the automatic choice
+// would follow the language of whatever machine runs them.
+inline const bool englishByDefault = (Zelto::zlSetLanguage(Zelto::zlLanguageEnglish), true);
+
 // Sets the interface language for one test and puts English back afterwards.
-class LanguageScope {
-  public:
+struct LanguageScope {
     explicit LanguageScope(int language) { Zelto::zlSetLanguage(language); }
     ~LanguageScope() { Zelto::zlSetLanguage(Zelto::zlLanguageEnglish); }
-
-    LanguageScope(const LanguageScope&) = delete;
-    LanguageScope& operator=(const LanguageScope&) = delete;
 };
 
 inline std::wstring text(int id) {
     return Zelto::zlText(id);
-}
-
-// A rectangle given in dialog units, in the dialog's pixels; position and size are converted
-// each on its own, as the dialog manager does.
-inline RECT dialogUnits(HWND dialog, int x, int y, int width, int height) {
-    RECT position = {x, y, x, y};
-    RECT size = {0, 0, width, height};
-    MapDialogRect(dialog, &position);
-    MapDialogRect(dialog, &size);
-    return RECT{position.left, position.top, position.left + size.right,
-                position.top + size.bottom};
-}
-
-inline bool sameRect(const RECT& a, const RECT& b) {
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
 inline std::string describe(const RECT& r) {

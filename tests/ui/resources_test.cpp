@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "model/zlVersion.h"
 #include "res/resource.h"
 
 namespace {
@@ -19,61 +18,34 @@ std::string resourceBytes(const wchar_t* type, int id) {
     HRSRC found = FindResourceW(module(), MAKEINTRESOURCEW(id), type);
     if (!found)
         return std::string();
-    HGLOBAL loaded = LoadResource(module(), found);
-    const auto* data = static_cast<const char*>(LockResource(loaded));
+    const auto* data = static_cast<const char*>(LockResource(LoadResource(module(), found)));
     return std::string(data, SizeofResource(module(), found));
-}
-
-// The square sizes an icon group offers (0 in the directory stands for 256).
-std::set<int> iconSizes(int id) {
-    const std::string group = resourceBytes(RT_GROUP_ICON, id);
-    std::set<int> sizes;
-    if (group.size() < 6)
-        return sizes;
-    const int count = static_cast<unsigned char>(group[4]) | (group[5] << 8);
-    for (int i = 0; i < count && 6 + size_t(i + 1) * 14 <= group.size(); ++i) {
-        const int width = static_cast<unsigned char>(group[6 + i * 14]);
-        sizes.insert(width == 0 ? 256 : width);
-    }
-    return sizes;
-}
-
-std::wstring menuText(HMENU menu, int position) {
-    wchar_t text[64] = {};
-    GetMenuStringW(menu, position, text, 64, MF_BYPOSITION);
-    return text;
 }
 
 }  // namespace
 
-TEST(resources, IconsInSeveralSizes) {
-    EXPECT_EQ((std::set<int>{16, 32, 48, 256}), iconSizes(IDI_ZELTO));
-    EXPECT_EQ((std::set<int>{16, 32}), iconSizes(IDI_SMALL));
-    HICON big = static_cast<HICON>(
-        LoadImageW(module(), MAKEINTRESOURCEW(IDI_ZELTO), IMAGE_ICON, 48, 48, 0));
-    EXPECT_NE(nullptr, big);
-    DestroyIcon(big);
-}
+TEST(resources, IconsMenuAcceleratorsAndClassName) {
+    for (int icon : {IDI_ZELTO, IDI_SMALL})
+        EXPECT_NE(nullptr, LoadImageW(module(), MAKEINTRESOURCEW(icon), IMAGE_ICON, 0, 0, 0));
 
-TEST(resources, MenuBarHoldsFourPlainCommands) {
+    // Four plain commands on the menu bar; their popups are built at run time.
     HMENU menu = LoadMenuW(module(), MAKEINTRESOURCEW(IDC_ZELTO));
     ASSERT_NE(nullptr, menu);
     ASSERT_EQ(4, GetMenuItemCount(menu));
-    const int ids[] = {32777, 32782, 32780, 32779};
-    const wchar_t* texts[] = {L"<File>", L"<Settings>", L"<Help>", L"<Language>"};
+    const std::pair<UINT, std::wstring> items[] = {
+        {32777, L"<File>"}, {32782, L"<Settings>"}, {32780, L"<Help>"}, {32779, L"<Language>"}};
     for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(static_cast<UINT>(ids[i]), GetMenuItemID(menu, i));
-        EXPECT_EQ(nullptr, GetSubMenu(menu, i));
-        EXPECT_EQ(texts[i], menuText(menu, i));
+        wchar_t text[64] = {};
+        GetMenuStringW(menu, i, text, 64, MF_BYPOSITION);
+        EXPECT_EQ(items[i].first, GetMenuItemID(menu, i));
+        EXPECT_EQ(items[i].second, text);
     }
     DestroyMenu(menu);
-}
 
-TEST(resources, AltQuestionMarkAndAltSlashOpenAbout) {
-    HACCEL table = LoadAcceleratorsW(module(), MAKEINTRESOURCEW(IDC_ZELTO));
-    ASSERT_NE(nullptr, table);
+    // Alt+? and Alt+/ open About.
     ACCEL entries[4] = {};
-    ASSERT_EQ(2, CopyAcceleratorTableW(table, entries, 4));
+    ASSERT_EQ(2, CopyAcceleratorTableW(LoadAcceleratorsW(module(), MAKEINTRESOURCEW(IDC_ZELTO)),
+                                       entries, 4));
     std::set<WORD> keys;
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(105, entries[i].cmd);
@@ -81,49 +53,36 @@ TEST(resources, AltQuestionMarkAndAltSlashOpenAbout) {
         keys.insert(entries[i].key);
     }
     EXPECT_EQ((std::set<WORD>{'?', '/'}), keys);
-}
 
-TEST(resources, WindowClassNameString) {
     wchar_t text[64] = {};
-    ASSERT_GT(LoadStringW(module(), IDS_WINDOW_CLASS, text, 64), 0);
+    LoadStringW(module(), IDS_WINDOW_CLASS, text, 64);
     EXPECT_EQ(std::wstring(L"<ZeltoWin32>"), text);
 }
 
-TEST(resources, DialogTemplatesArePresent) {
-    for (int id : {IDD_BASE_SIZEABLE, IDD_SET_MASTER_PW, IDD_SETTINGS})
-        EXPECT_FALSE(resourceBytes(RT_DIALOG, id).empty()) << id;
-}
-
-TEST(resources, VersionBlockMatchesTheProgramVersion) {
+TEST(resources, VersionBlockAndManifest) {
     wchar_t path[MAX_PATH] = {};
     GetModuleFileNameW(nullptr, path, MAX_PATH);
     DWORD ignored = 0;
-    const DWORD size = GetFileVersionInfoSizeW(path, &ignored);
-    ASSERT_GT(size, 0u);
-    std::vector<char> block(size);
-    ASSERT_TRUE(GetFileVersionInfoW(path, 0, size, block.data()));
+    std::vector<char> block(GetFileVersionInfoSizeW(path, &ignored));
+    ASSERT_TRUE(GetFileVersionInfoW(path, 0, DWORD(block.size()), block.data()));
     VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
     ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
-    EXPECT_EQ(static_cast<DWORD>((Zelto::zlVersionMajor << 16) | Zelto::zlVersionMinor),
-              fixed->dwFileVersionMS);
-    EXPECT_EQ(static_cast<DWORD>(Zelto::zlVersionPatch << 16), fixed->dwFileVersionLS);
-    EXPECT_EQ(fixed->dwFileVersionMS, fixed->dwProductVersionMS);
+    EXPECT_EQ((std::vector<DWORD>{0x20002, 0x10000, 0x20002, 0x10000}),
+              (std::vector<DWORD>{fixed->dwFileVersionMS, fixed->dwFileVersionLS,
+                                  fixed->dwProductVersionMS, fixed->dwProductVersionLS}));
     wchar_t* text = nullptr;
     ASSERT_TRUE(VerQueryValueW(block.data(), L"\\StringFileInfo\\040904b0\\ProductVersion",
                                reinterpret_cast<void**>(&text), &length));
     EXPECT_EQ(std::wstring(L"2.2.1"), text);
-}
 
-TEST(resources, ManifestAsksForCommonControlsSix) {
+    // Common controls 6, and Vista, 7, 8, 8.1 and 10 as supported systems.
     const std::string manifest = resourceBytes(RT_MANIFEST, 1);
-    EXPECT_NE(std::string::npos, manifest.find("Microsoft.Windows.Common-Controls"));
-    EXPECT_NE(std::string::npos, manifest.find("version=\"6.0.0.0\""));
-    // Vista, 7, 8, 8.1 and 10.
-    for (const char* os :
-         {"e2011457-1546-43c5-a5fe-008deee3d3f0", "35138b9a-5d96-4fbd-8e2d-a2440225f93a",
+    for (const char* part :
+         {"Microsoft.Windows.Common-Controls", "version=\"6.0.0.0\"",
+          "e2011457-1546-43c5-a5fe-008deee3d3f0", "35138b9a-5d96-4fbd-8e2d-a2440225f93a",
           "4a2f28e3-53b9-4441-ba9c-d69d4a4a6e38", "1f676c76-80e1-4239-95bb-83d0f6d0da78",
           "8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a"}) {
-        EXPECT_NE(std::string::npos, manifest.find(os)) << os;
+        EXPECT_NE(std::string::npos, manifest.find(part)) << part;
     }
 }

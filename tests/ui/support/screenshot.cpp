@@ -1,18 +1,21 @@
 #include "ui/support/screenshot.h"
 
+// gdiplus.h needs what WIN32_LEAN_AND_MEAN leaves out of windows.h.
+#include <objidl.h>
+//
+#include <gdiplus.h>
+
 #include <algorithm>
 #include <filesystem>
 
 namespace ztest {
 
 std::vector<DialogStep> captureSteps(RgbImage& image) {
-    std::vector<DialogStep> steps;
-    steps.push_back([](HWND dialog) {
+    std::vector<DialogStep> steps(5, [](HWND) {});
+    steps[0] = [](HWND dialog) {
         RedrawWindow(dialog, nullptr, nullptr,
                      RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    });
-    for (int i = 0; i < 4; ++i)
-        steps.push_back([](HWND) {});
+    };
     steps.push_back([&image](HWND dialog) { image = readScreen(dialog); });
     return steps;
 }
@@ -26,26 +29,15 @@ RgbImage readScreen(HWND window) {
     image.height = frame.bottom - frame.top;
     HDC screen = GetDC(nullptr);
     HDC memory = CreateCompatibleDC(screen);
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = image.width;
-    info.bmiHeader.biHeight = -image.height;  // top-down
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    void* bits = nullptr;
-    HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, image.width, image.height);
     HGDIOBJ previous = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, image.width, image.height, screen, frame.left, frame.top, SRCCOPY);
-    GdiFlush();
-    image.pixels.resize(size_t(image.width) * image.height * 3);
-    const auto* source = static_cast<const uint8_t*>(bits);
-    for (size_t i = 0; i < size_t(image.width) * image.height; ++i) {
-        image.pixels[i * 3 + 0] = source[i * 4 + 2];
-        image.pixels[i * 3 + 1] = source[i * 4 + 1];
-        image.pixels[i * 3 + 2] = source[i * 4 + 0];
-    }
     SelectObject(memory, previous);
+    BITMAPINFO info = {};
+    info.bmiHeader = {
+        sizeof(BITMAPINFOHEADER), image.width, -image.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    image.pixels.resize(size_t(image.width) * image.height * 4);
+    GetDIBits(memory, bitmap, 0, image.height, image.pixels.data(), &info, DIB_RGB_COLORS);
     DeleteObject(bitmap);
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
@@ -53,26 +45,36 @@ RgbImage readScreen(HWND window) {
 }
 
 std::string saveScreenshot(const RgbImage& image, const std::string& name) {
+    using namespace Gdiplus;
+    using namespace Gdiplus::DllExports;
+    static const bool started = [] {  // GDI+ holds the PNG encoder; it stays to the end
+        ULONG_PTR token = 0;
+        GdiplusStartupInput input;
+        return GdiplusStartup(&token, &input, nullptr) == Ok;
+    }();
     const std::filesystem::path folder(ZELTO_SCREENSHOT_DIR);
     std::error_code error;
     std::filesystem::create_directories(folder, error);
-    const std::string path = (folder / (name + ".png")).string();
-    return writePng(path, image) ? path : std::string();
+    const std::filesystem::path path = folder / (name + ".png");
+    const CLSID png = {
+        0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+    GpBitmap* bitmap = nullptr;
+    const bool saved =
+        started && !image.pixels.empty() &&
+        GdipCreateBitmapFromScan0(image.width, image.height, image.width * 4, PixelFormat32bppRGB,
+                                  const_cast<BYTE*>(image.pixels.data()), &bitmap) == Ok &&
+        GdipSaveImageToFile(bitmap, path.wstring().c_str(), &png, nullptr) == Ok;
+    if (bitmap)
+        GdipDisposeImage(bitmap);
+    return saved ? path.string() : std::string();
 }
 
 int countColour(const RgbImage& image, const RECT& area, COLORREF colour) {
     int count = 0;
-    const int top = std::max(0, static_cast<int>(area.top));
-    const int bottom = std::min(image.height, static_cast<int>(area.bottom));
-    const int left = std::max(0, static_cast<int>(area.left));
-    const int right = std::min(image.width, static_cast<int>(area.right));
-    for (int y = top; y < bottom; ++y) {
-        for (int x = left; x < right; ++x) {
-            const uint8_t* p = image.at(x, y);
-            if (p[0] == GetRValue(colour) && p[1] == GetGValue(colour) &&
-                p[2] == GetBValue(colour)) {
-                ++count;
-            }
+    for (LONG y = std::max(0L, area.top); y < std::min<LONG>(image.height, area.bottom); ++y) {
+        for (LONG x = std::max(0L, area.left); x < std::min<LONG>(image.width, area.right); ++x) {
+            const uint8_t* p = &image.pixels[(size_t(y) * image.width + x) * 4];
+            count += RGB(p[2], p[1], p[0]) == colour;
         }
     }
     return count;
@@ -85,10 +87,6 @@ RECT rectInCapture(HWND child) {
     GetWindowRect(GetAncestor(child, GA_ROOT), &frame);
     OffsetRect(&rect, -frame.left, -frame.top);
     return rect;
-}
-
-void append(std::vector<DialogStep>& steps, const std::vector<DialogStep>& more) {
-    steps.insert(steps.end(), more.begin(), more.end());
 }
 
 }  // namespace ztest

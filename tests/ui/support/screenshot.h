@@ -2,13 +2,21 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "ui/support/dialogDriver.h"
-#include "ui/support/pngWriter.h"
 
 namespace ztest {
+
+// What the screen showed of a window: rows top to bottom, four bytes a pixel in the order
+// GDI hands them over (blue, green, red, unused).
+struct RgbImage {
+    int width = 0;
+    int height = 0;
+    std::vector<uint8_t> pixels;
+};
 
 // Steps that capture what the screen shows of the dialog (frame included) into image. Wine
 // hands what was drawn to the X server from the dialog's own message loop, so the picture
@@ -28,7 +36,8 @@ int countColour(const RgbImage& image, const RECT& area, COLORREF colour);
 // A child's rectangle in the coordinates of its top-level window's capture.
 RECT rectInCapture(HWND child);
 
-// Appends steps to a list.
-void append(std::vector<DialogStep>& steps, const std::vector<DialogStep>& more);
+inline void append(std::vector<DialogStep>& steps, const std::vector<DialogStep>& more) {
+    steps.insert(steps.end(), more.begin(), more.end());
+}
 
 }  // namespace ztest
