@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <sstream>
+#include <vector>
 
 #include "support/test_util.h"
 #include "tree_text.h"
@@ -19,25 +21,17 @@ class Random {
 
     // Markup, line ends, blanks, one to four UTF-8 bytes, references that must stay text.
     dm_utf8_str text(const zlEncrypt& cipher, bool allowEmpty) {
-        static const char* pieces[] = {"a",
-                                       "Z",
-                                       "7",
-                                       " ",
-                                       "<",
-                                       ">",
-                                       "&",
-                                       "\"",
-                                       "'",
-                                       "\t",
-                                       "&amp;",
-                                       "]]>",
-                                       "\r\n",
-                                       "\xC3\xA4",
-                                       "\xE2\x82\xAC",
-                                       "\xF0\x9F\x94\x91"};
+        static const std::vector<std::string> pieces = [] {
+            std::vector<std::string> out;
+            std::istringstream in(
+                "a|Z|7| |<|>|&|\"|'|\t|&amp;|]]>|\r\n|\xC3\xA4|\xE2\x82\xAC|\xF0\x9F\x94\x91");
+            for (std::string piece; std::getline(in, piece, '|');)
+                out.push_back(piece);
+            return out;
+        }();
         std::string s;
         for (int n = below(30) + (allowEmpty ? 0 : 1); n > 0; --n)
-            s += pieces[below(16)];
+            s += pieces[below(static_cast<int>(pieces.size()))];
         return ztest::enc(cipher, s.c_str());
     }
 
