@@ -1,17 +1,21 @@
+// The conversion of a key file of the older format, through the converter program's command.
 #include "converter/zlLegacyConverter.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
-#include "support/legacy_fixture.h"
+#include "converter/zlConverterCommand.h"
 #include "model/zlFileFormat.h"
 #include "model/zlVerify.h"
+#include "support/legacy_fixture.h"
 #include "support/legacy_writer.h"
 #include "support/test_util.h"
 
 using namespace Zelto;
+using dunmar::dm_string;
 using dunmar::dm_utf8_str;
 namespace fs = std::filesystem;
 
@@ -20,177 +24,154 @@ namespace {
 class LegacyConversion : public ::testing::Test {
   protected:
     void put(const std::string& bytes) { ztest::writeBytes(file, bytes); }
-    void putFixture(const char* name) { put(ztest::readBytes(ztest::converterData(name))); }
     int convert(const char* password) {
         return zlConvertLegacyFile(ztest::widePath(file), password);
     }
-    // Reads the converted file under password; the password must be the file's.
-    void readBack(zlKeyFile& out, const char* password) {
-        ASSERT_EQ(zlReadOk, out.readFile(ztest::widePath(file)));
-        ASSERT_EQ(0, out.set_pass_phrase(password));
-        ASSERT_EQ(zlPasswordRight, zlCheckPassword(out));
-        ASSERT_NE(nullptr, out.keys());
+    // The keys of the converted file, which must pass its password check.
+    std::vector<std::string> readBack(const char* password) {
+        zlKeyFile out;
+        EXPECT_EQ(zlReadOk, out.readFile(ztest::widePath(file)));
+        EXPECT_EQ(0, out.set_pass_phrase(password));
+        EXPECT_EQ(zlPasswordRight, zlCheckPassword(out));
+        return ztest::plainKeys(out);
     }
-    // Converts a written legacy file with one key under password and reads it back.
-    void roundTrip(const std::string& password) {
+    // The settings as written, from <version> on.
+    std::string settingsText() {
+        const std::string text = ztest::readBytes(file);
+        const size_t from = text.find("<version>");
+        return text.substr(from, text.find("</settings>") - from);
+    }
+    // A file with one key under password: name enciphered, password in plain.
+    static std::string oneKey(const std::string& password, const std::string& clipboard = "") {
         ztest::LegacyFile legacy;
         legacy.password = password;
-        legacy.keys.push_back({{"name", true, "key under " + password}, {"pw", true, "secret"}});
-        put(ztest::legacyText(legacy));
-        ASSERT_EQ(zlConvertOk, convert(password.c_str()));
-        zlKeyFile out;
-        readBack(out, password.c_str());
-        EXPECT_EQ(std::vector<std::string>{"name=key under " + password + "|pw=secret"},
-                  ztest::plainKeys(out));
+        legacy.autoClearClipboard = clipboard;
+        legacy.keys.push_back({{"name", true, "key under " + password}, {"pw", false, "secret"}});
+        return ztest::legacyText(legacy);
+    }
+    static std::vector<std::string> oneKeyPlain(const std::string& password) {
+        return {"name=key under " + password + "|pw=secret"};
     }
 
     ztest::TempDir dir;
     fs::path file = dir / "ZeltoPre.xml";
 };
 
-// A leftover working file of an earlier run is replaced, not read.
-TEST_F(LegacyConversion, FixtureBecomesACurrentFileWithTheSameKeysAndSettings) {
-    putFixture("Legacy.xml");
-    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
-    ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
-    EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
-
-    const std::string text = ztest::readBytes(file);
-    EXPECT_FALSE(zlIsOlderFormat(dm_utf8_str(text)));
-    EXPECT_NE(std::string::npos, text.find("<userFirstName></userFirstName>"));
-    EXPECT_NE(std::string::npos, text.find("<userEmail></userEmail>"));
-    zlKeyFile out;
-    readBack(out, ztest::kLegacyFixturePassword);
-    EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(out));
-    EXPECT_EQ(nullptr, out.trash());
-    // Clipboard time and language are kept, the rest defaulted.
-    const zlFileItemSettings& s = *out.settings();
-    EXPECT_EQ(45, s.autoClearClipboard);
-    EXPECT_EQ("Deutsch", s.language.str());
-    EXPECT_EQ(30, s.autolock);
-    EXPECT_EQ(2, s.showSelectedKey);
-    EXPECT_EQ(zlFileItemSettings::programVersion().str(), s.version.str());
-}
-
-TEST_F(LegacyConversion, BareFileGetsDefaultSettingsAndAVerifyValueForItsPasswordOnly) {
-    putFixture("LegacyBare.xml");
-    ASSERT_EQ(zlConvertOk, convert(ztest::kLegacyFixturePassword));
-    zlKeyFile out;
-    readBack(out, ztest::kLegacyFixturePassword);
-    EXPECT_EQ(30, out.settings()->autoClearClipboard);
-    EXPECT_NE(std::string::npos, ztest::readBytes(file).find("<language></language>"));
-    EXPECT_EQ(std::vector<std::string>{"name=only"}, ztest::plainKeys(out));
-    ASSERT_EQ(0, out.set_pass_phrase("legacy passworD"));
-    EXPECT_EQ(zlPasswordWrong, zlCheckPassword(out));
-}
-
-TEST_F(LegacyConversion, ClipboardTimeIsClampedLikeTheKeyFileReader) {
+// Every file becomes a current one with the same keys under its password, whether the
+// password is filled with salt, fills the key or is cut. The clipboard time (clamped) and the
+// language are kept, the other settings take their defaults, the user fields are empty. A
+// leftover working file of an earlier run is replaced, not read.
+TEST_F(LegacyConversion, FilesBecomeCurrentFilesWithTheSameKeys) {
+    const std::string pw = ztest::kLegacyFixturePassword;
+    const std::string k32(32, 'k'), z128(128, 'z'),
+        accents = "p\xC3\xA4sswo\xCC\x88rd \xE2\x9C\x93";
     const struct {
-        const char* text;
-        int expected;
-    } cases[] = {{"3", 0}, {"5", 5}, {"120", 120}, {"900", 600}, {"soon", 0}};
+        std::string text, password;
+        const char *clipboard, *language;
+        std::vector<std::string> keys;
+    } cases[] = {
+        {ztest::readBytes(ztest::converterData("Legacy.xml")), pw, "45", "Deutsch",
+         ztest::legacyFixtureKeys()},
+        {ztest::readBytes(ztest::converterData("LegacyBare.xml")), pw, "30", "", {"name=only"}},
+        {oneKey("8 bytes!", "3"), "8 bytes!", "0", "", oneKeyPlain("8 bytes!")},
+        {oneKey(k32, "5"), k32, "5", "", oneKeyPlain(k32)},
+        {oneKey(z128, "900"), z128, "600", "", oneKeyPlain(z128)},
+        {oneKey(accents, "soon"), accents, "0", "", oneKeyPlain(accents)},
+        {oneKey("clipboard", "600"), "clipboard", "600", "", oneKeyPlain("clipboard")},
+    };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.text);
-        ztest::LegacyFile legacy;
-        legacy.password = "clipboard test";
-        legacy.autoClearClipboard = c.text;
-        legacy.keys.push_back({{"name", false, "n"}});
-        put(ztest::legacyText(legacy));
-        ASSERT_EQ(zlConvertOk, convert("clipboard test"));
-        zlKeyFile out;
-        readBack(out, "clipboard test");
-        EXPECT_EQ(c.expected, out.settings()->autoClearClipboard);
-    }
-}
-
-// Short pass phrases are filled with salt, 32 bytes need none, longer ones are cut: each
-// path of the construction must survive the change of text form.
-TEST_F(LegacyConversion, PasswordsOfEveryLengthClassConvert) {
-    roundTrip("8 bytes!");
-    roundTrip(std::string(32, 'k'));
-    roundTrip(std::string(128, 'z'));
-    roundTrip("p\xC3\xA4sswo\xCC\x88rd \xE2\x9C\x93");
-}
-
-// A new file left by a run that did not end goes with any failure.
-TEST_F(LegacyConversion, WrongPasswordLeavesTheFileAsItWas) {
-    putFixture("Legacy.xml");
-    const std::string before = ztest::readBytes(file);
-    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from a run that did not end");
-    // A wrong password of another length must not pass for a damaged file.
-    for (const char* wrong : {"legacy passworD", "8 bytes!", "a much longer wrong password than"}) {
-        SCOPED_TRACE(wrong);
-        EXPECT_EQ(zlConvertWrongPassword, convert(wrong));
-        EXPECT_EQ(before, ztest::readBytes(file));
+        SCOPED_TRACE(c.password);
+        put(c.text);
+        ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
+        ASSERT_EQ(zlConvertOk, convert(c.password.c_str()));
         EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
+        EXPECT_EQ(c.keys, readBack(c.password.c_str()));
+        EXPECT_EQ("<version>" + zlFileItemSettings::programVersion().str() +
+                      "</version>\r\n    <autolock>30</autolock>\r\n    <autoClearClipboard>" +
+                      c.clipboard +
+                      "</autoClearClipboard>\r\n    <showSelectedKey>2</showSelectedKey>\r\n    "
+                      "<language>" +
+                      c.language +
+                      "</language>\r\n    <userFirstName></userFirstName>\r\n    "
+                      "<userLastName></userLastName>\r\n    <userEmail></userEmail>\r\n  ",
+                  settingsText());
     }
-    // The verify value made under another text is no proof of the password.
-    ztest::LegacyFile legacy;
-    legacy.password = "right password";
-    legacy.verifyPlain = "not the verify text";
-    legacy.keys.push_back({{"name", false, "n"}});
-    put(ztest::legacyText(legacy));
-    EXPECT_EQ(zlConvertWrongPassword, convert("right password"));
 }
 
-TEST_F(LegacyConversion, UnusablePasswordIsAUsageError) {
-    putFixture("Legacy.xml");
-    const std::string before = ztest::readBytes(file);
+// Every refusal leaves the file as it was and no working file behind, not even one left
+// by an earlier run that did not end.
+TEST_F(LegacyConversion, RefusalsLeaveTheFileAsItWas) {
+    const std::string legacy = ztest::readBytes(ztest::converterData("Legacy.xml"));
+    const char* pw = ztest::kLegacyFixturePassword;
+    ztest::LegacyFile otherVerify;
+    otherVerify.password = "right password";
+    otherVerify.verifyPlain = "not the verify text";
+    otherVerify.keys.push_back({{"name", false, "n"}});
+    ztest::LegacyFile noFields;  // carries no mark of the older format
+    noFields.password = pw;
     const std::string tooLong(129, 'x');
-    for (const char* password : {static_cast<const char*>(nullptr), "", "7 bytes", tooLong.c_str()})
-        EXPECT_EQ(zlConvertUsage, convert(password));
-    EXPECT_EQ(before, ztest::readBytes(file));
-    // Checked before the file is looked for.
-    EXPECT_EQ(zlConvertUsage, zlConvertLegacyFile(ztest::widePath(dir / "none.xml"), "7 bytes"));
-}
-
-TEST_F(LegacyConversion, CurrentOrForeignFilesAreNotLegacy) {
-    const std::string current =
-        zlSkeletonText(zlMakeVerifyValue(dm_utf8_str(ztest::kLegacyFixturePassword))).str();
-    // Without a single field the file carries no mark of the older format.
-    ztest::LegacyFile noFields;
-    noFields.password = ztest::kLegacyFixturePassword;
-    for (const std::string& text :
-         {current, ztest::legacyText(noFields), std::string(), std::string("<Zelto></Zelto>\r\n"),
-          std::string("plain text that mentions encrypted data")}) {
-        SCOPED_TRACE(text);
-        put(text);
-        EXPECT_EQ(zlConvertNotLegacy, convert(ztest::kLegacyFixturePassword));
-        EXPECT_EQ(text, ztest::readBytes(file));
-    }
-}
-
-TEST_F(LegacyConversion, DamagedFixturesAreRefusedAndLeftAlone) {
-    int seen = 0;
+    struct Case {
+        std::string text;
+        const char* password;
+        int result;
+    };
+    std::vector<Case> cases = {
+        {legacy, "legacy passworD", zlConvertWrongPassword},
+        {legacy, "8 bytes!", zlConvertWrongPassword},
+        {legacy, "a much longer wrong password than", zlConvertWrongPassword},
+        {ztest::legacyText(otherVerify), "right password", zlConvertWrongPassword},
+        {legacy, nullptr, zlConvertUsage},
+        {legacy, "", zlConvertUsage},
+        {legacy, "7 bytes", zlConvertUsage},
+        {legacy, tooLong.c_str(), zlConvertUsage},
+        {zlSkeletonText(zlMakeVerifyValue(dm_utf8_str(pw))).str(), pw, zlConvertNotLegacy},
+        {ztest::legacyText(noFields), pw, zlConvertNotLegacy},
+        {"", pw, zlConvertNotLegacy},
+        {"<Zelto></Zelto>\r\n", pw, zlConvertNotLegacy},
+        {"plain text that mentions encrypted data", pw, zlConvertNotLegacy}};
     for (const auto& entry : fs::directory_iterator(ztest::converterData(""))) {
-        const std::string name = entry.path().filename().string();
-        if (name.rfind("Broken", 0) != 0)
-            continue;
-        SCOPED_TRACE(name);
-        ++seen;
-        putFixture(name.c_str());
-        const std::string before = ztest::readBytes(file);
-        EXPECT_EQ(zlConvertNotLegacy, convert(ztest::kLegacyFixturePassword));
-        EXPECT_EQ(before, ztest::readBytes(file));
+        if (entry.path().filename().string().rfind("Broken", 0) == 0)
+            cases.push_back({ztest::readBytes(entry.path()), pw, zlConvertNotLegacy});
+    }
+    ASSERT_EQ(cases.size(), 23u);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.text.substr(0, 300));
+        put(c.text);
+        ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from a run that did not end");
+        EXPECT_EQ(c.result, convert(c.password));
+        EXPECT_EQ(c.text, ztest::readBytes(file));
         EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
     }
-    EXPECT_GE(seen, 10);
 }
 
-// A folder where the new text would go makes the write fail on every system; a folder in
-// place of the file cannot be read.
+// No file, a folder in its place or where the new text would go; the password is checked
+// before the file is looked for.
 TEST_F(LegacyConversion, MissingUnreadableOrUnwritableFile) {
-    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
-    EXPECT_EQ(zlConvertNoFile,
-              zlConvertLegacyFile(dunmar::dm_string(), ztest::kLegacyFixturePassword));
-    putFixture("Legacy.xml");
+    const char* pw = ztest::kLegacyFixturePassword;
+    EXPECT_EQ(zlConvertNoFile, convert(pw));
+    EXPECT_EQ(zlConvertNoFile, zlConvertLegacyFile(dm_string(), pw));
+    EXPECT_EQ(zlConvertUsage, convert("7 bytes"));
+    put(oneKey(pw));
     const std::string before = ztest::readBytes(file);
     fs::create_directory(dir / "ZeltoPre.xml.new");
-    EXPECT_EQ(zlConvertWriteFailed, convert(ztest::kLegacyFixturePassword));
+    EXPECT_EQ(zlConvertWriteFailed, convert(pw));
     EXPECT_EQ(before, ztest::readBytes(file));
     fs::remove(file);
     fs::create_directory(file);
-    EXPECT_EQ(zlConvertNoFile, convert(ztest::kLegacyFixturePassword));
+    EXPECT_EQ(zlConvertNoFile, convert(pw));
+}
+
+// The program's arguments: exactly one, well-formed, converted to its UTF-8 bytes.
+TEST_F(LegacyConversion, CommandTakesOneWidePassword) {
+    const std::string password = "\xE5\xAF\x86\xE7\xA0\x81 \xF0\x9F\x94\x91 key";
+    put(oneKey(password));
+    const dm_string wide = dm_utf8_str(password).to_wide();
+    const dunmar::dm_wchar lone[] = {'p', 'a', 's', 's', 'w', 'o', 'r', 'd', 0xD800, 0};
+    for (const std::vector<dm_string>& arguments :
+         {std::vector<dm_string>{}, {wide, wide}, {dm_string(lone)}})
+        EXPECT_EQ(zlConvertUsage, zlConverterCommand(arguments, ztest::widePath(file)));
+    ASSERT_EQ(zlConvertOk, zlConverterCommand({wide}, ztest::widePath(file)));
+    EXPECT_EQ(oneKeyPlain(password), readBack(password.c_str()));
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
+// Whole-file operations on wide paths, the program's own path, and new GUIDs.
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
+#include <regex>
 #include <string>
 #include <system_error>
 
@@ -18,19 +19,23 @@ dm_string wide(const fs::path& p) {
     return dm_string(dm_wstring(units.begin(), units.end()));
 }
 
-void put_bytes(const fs::path& p, const std::string& bytes) {
-    std::ofstream out(p, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+// Open handles of this process where the system lists them; -1 elsewhere.
+long open_handles() {
+    std::error_code ec;
+    long n = 0;
+    for (fs::directory_iterator it("/proc/self/fd", ec), end; !ec && it != end; it.increment(ec))
+        ++n;
+    return ec ? -1 : n;
 }
 
-// A fresh folder under the system's temporary folder, removed afterwards.
+// A fresh folder under the system's temporary folder, named by a new GUID.
 class DmSystemFiles : public ::testing::Test {
   protected:
     void SetUp() override {
         dm_string guid;
         ASSERT_TRUE(dm_new_guid_text(guid));
         dir_ = fs::temp_directory_path() / ("zelto-core-" + guid.to_utf8().str());
-        ASSERT_TRUE(fs::create_directories(dir_));
+        ASSERT_TRUE(fs::create_directories(dir_ / "locked"));
     }
     void TearDown() override {
         std::error_code ignored;
@@ -42,114 +47,89 @@ class DmSystemFiles : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(DmSystemFiles, WriteThenReadRoundTripsUnderAWideName) {
-    // Name outside Latin-1 and beyond the BMP: the path must travel as wide text.
-    const fs::path file = dir_ / fs::path(u"k\u00e9y\u20ac\U0001F600.xml");
-    const dm_utf8_str text("<Zelto>\xC3\xA9\xFF\r\n</Zelto>");
-    ASSERT_TRUE(dm_system::write_file(wide(file), text));
-    EXPECT_TRUE(fs::exists(file));
-    EXPECT_EQ(fs::file_size(file), text.length());
-
-    dm_utf8_str back;
-    ASSERT_TRUE(dm_system::read_file(wide(file), back));
-    EXPECT_TRUE(back.equals(text));
-}
-
-TEST_F(DmSystemFiles, WritingEmptyTextCreatesOrEmptiesTheFile) {
-    const fs::path fresh = dir_ / "fresh.xml";
-    const fs::path full = dir_ / "full.xml";
-    put_bytes(full, "old content");
-    for (const fs::path& file : {fresh, full}) {
-        EXPECT_TRUE(dm_system::write_file(wide(file), dm_utf8_str())) << file;
-        ASSERT_TRUE(fs::exists(file)) << file;
-        EXPECT_EQ(fs::file_size(file), 0u) << file;
+// Name outside Latin-1 and beyond the BMP: the path travels as wide text. Each text replaces
+// the longer one before; an empty text empties the file; reading stops at the first zero byte.
+// No handle stays open.
+TEST_F(DmSystemFiles, WrittenTextReadsBack) {
+    const long handles = open_handles();
+    const dm_string file = wide(dir_ / fs::path(u"k\u00e9y\u20ac\U0001F600.xml"));
+    for (const std::string& text : {std::string("<Zelto>\xC3\xA9\xFF\r\n</Zelto>"),
+                                    std::string("ab\0cd", 5), std::string("x"), std::string()}) {
+        SCOPED_TRACE(text);
+        ASSERT_TRUE(dm_system::write_file(file, dm_utf8_str(text.data(), text.size())));
+        dm_utf8_str back("stale");
+        EXPECT_TRUE(dm_system::read_file(file, back));
+        EXPECT_EQ(back.str(), text.substr(0, text.find('\0')));
+        unsigned long long size = 99;
+        EXPECT_TRUE(dm_system::file_size(file, size));
+        EXPECT_EQ(size, text.size());
+        EXPECT_TRUE(dm_system::file_exists(file));
+        EXPECT_TRUE(dm_system::file_readable(file));
     }
+    EXPECT_EQ(handles, open_handles());
 }
 
-TEST_F(DmSystemFiles, WriteAndReadFailWhereNoFileIs) {
-    const dm_string bad[] = {dm_string(), wide(dir_ / "missing" / "f.xml"), wide(dir_)};
-    for (const dm_string& path : bad) {
-        const std::string name = path.to_utf8().str();
-        EXPECT_FALSE(dm_system::write_file(path, dm_utf8_str("x"))) << name;
-        dm_utf8_str out("stale");
-        EXPECT_FALSE(dm_system::read_file(path, out)) << name;
-        EXPECT_TRUE(out.empty()) << name;
-    }
-}
-
-// Reading stops at the first zero byte; an empty file is empty text, not a failure.
-TEST_F(DmSystemFiles, ReadStopsAtTheFirstZeroByte) {
-    const std::pair<std::string, std::string> cases[] = {{"", ""},
-                                                         {std::string("ab\0cd", 5), "ab"}};
+// No path, a missing folder, a folder: nothing to read or write. A folder counts as existing
+// unless its mode is the bare directory flag, without permission bits.
+TEST_F(DmSystemFiles, NoFileWhereNoneIs) {
+#ifndef _WIN32
+    fs::permissions(dir_ / "locked", fs::perms::none);
+#endif
+    const struct {
+        dm_string path;
+        bool exists;
+    } cases[] = {{dm_string(), false},
+                 {wide(dir_ / "missing" / "f.xml"), false},
+                 {wide(dir_), true},
+#ifndef _WIN32
+                 {wide(dir_ / "locked"), false}
+#endif
+    };
     for (const auto& c : cases) {
-        put_bytes(dir_ / "f.bin", c.first);
+        SCOPED_TRACE(c.path.to_utf8().str());
+        EXPECT_FALSE(dm_system::write_file(c.path, dm_utf8_str("x")));
         dm_utf8_str out("stale");
-        EXPECT_TRUE(dm_system::read_file(wide(dir_ / "f.bin"), out)) << c.second;
+        EXPECT_FALSE(dm_system::read_file(c.path, out));
+        EXPECT_TRUE(out.empty());
+        unsigned long long size = 99;
+        EXPECT_FALSE(dm_system::file_size(c.path, size));
+        EXPECT_EQ(size, 0u);
+        EXPECT_FALSE(dm_system::file_readable(c.path));
+        EXPECT_EQ(dm_system::file_exists(c.path), c.exists);
+    }
+}
+
+TEST(DmSystem, ProgramPathAndFolder) {
+    dm_string exe, dir, expected;
+    ASSERT_TRUE(dm_system::get_this_exe_path(exe));
+    EXPECT_TRUE(dm_system::file_exists(exe));
+    EXPECT_NE(exe.to_utf8().str().find("core_tests"), std::string::npos);
+    ASSERT_TRUE(dm_system::get_this_exe_dir(dir));
+    ASSERT_TRUE(dm_system::dir_of_path(exe, expected));
+    EXPECT_TRUE(dir.equals(expected));
+
+    // The later of the two separators wins.
+    const std::pair<const dm_wchar*, const dm_wchar*> cases[] = {
+        {DM_W("C:\\tools/bin\\Zelto.exe"), DM_W("C:\\tools/bin\\")},
+        {DM_W("C:\\tools\\bin/Zelto.exe"), DM_W("C:\\tools\\bin/")},
+        {DM_W("\\x"), DM_W("\\")},
+        {DM_W("C:\\dir\\"), DM_W("C:\\dir\\")},
+        {DM_W("Zelto.exe"), DM_W("")},
+        {DM_W(""), DM_W("")},
+    };
+    for (const auto& c : cases) {
+        dm_string out(DM_W("stale"));
+        EXPECT_EQ(dm_system::dir_of_path(dm_string(c.first), out), *c.second != 0);
         EXPECT_EQ(out.str(), c.second);
     }
 }
 
-TEST_F(DmSystemFiles, FileExistsForFilesAndOrdinaryDirectories) {
-    const fs::path file = dir_ / "there.xml";
-    put_bytes(file, "x");
-    EXPECT_TRUE(dm_system::file_exists(wide(file)));
-    EXPECT_FALSE(dm_system::file_exists(wide(dir_ / "missing.xml")));
-    EXPECT_FALSE(dm_system::file_exists(dm_string()));
-    // A directory's mode carries permission bits besides the directory flag.
-    EXPECT_TRUE(dm_system::file_exists(wide(dir_)));
-}
-
-TEST_F(DmSystemFiles, DirectoryWithoutPermissionBitsDoesNotExist) {
-#ifdef _WIN32
-    GTEST_SKIP() << "Windows directories always report permission bits";
-#else
-    const fs::path locked = dir_ / "locked";
-    ASSERT_TRUE(fs::create_directory(locked));
-    fs::permissions(locked, fs::perms::none);
-    EXPECT_FALSE(dm_system::file_exists(wide(locked)));
-#endif
-}
-
-TEST(DmSystem, ExePathAndDirNameTheRunningProgram) {
-    dm_string exe;
-    ASSERT_TRUE(dm_system::get_this_exe_path(exe));
-    EXPECT_TRUE(dm_system::file_exists(exe));
-    const std::string exe_utf8 = exe.to_utf8().str();
-    EXPECT_NE(exe_utf8.find("core_tests"), std::string::npos) << exe_utf8;
-
-    dm_string dir;
-    ASSERT_TRUE(dm_system::get_this_exe_dir(dir));
-    ASSERT_GT(dir.length(), 0u);
-    ASSERT_LT(dir.length(), exe.length());
-    EXPECT_TRUE(dir.equals(exe.substring(0, static_cast<long>(dir.length()))));
-    const dm_wchar last = dir.c_str()[dir.length() - 1];
-    EXPECT_TRUE(last == DM_W('\\') || last == DM_W('/'));
-    // Nothing but the file name follows the folder.
-    const dm_string name = exe.substring(static_cast<long>(dir.length()), 5200);
-    EXPECT_EQ(name.find_first(DM_W('\\')), -1);
-    EXPECT_EQ(name.find_first(DM_W('/')), -1);
-}
-
-TEST(DmSystem, DirOfPathCutsAfterTheLaterSeparator) {
-    struct Case {
-        const dm_wchar* path;
-        const dm_wchar* dir;
-    };
-    const Case cases[] = {
-        {DM_W("C:/Program Files\\Zelto\\Zelto.exe"), DM_W("C:/Program Files\\Zelto\\")},
-        {DM_W("C:\\tools/bin\\Zelto.exe"), DM_W("C:\\tools/bin\\")},
-        {DM_W("C:\\tools\\bin/Zelto.exe"), DM_W("C:\\tools\\bin/")},
-        {DM_W("/usr/bin/zelto"), DM_W("/usr/bin/")},
-        {DM_W("\\x"), DM_W("\\")},
-        {DM_W("C:\\dir\\"), DM_W("C:\\dir\\")},
-    };
-    for (const Case& c : cases) {
-        dm_string dir(DM_W("stale"));
-        EXPECT_TRUE(dm_system::dir_of_path(dm_string(c.path), dir));
-        EXPECT_EQ(dir.str(), c.dir);
-    }
-    dm_string dir(DM_W("stale"));
-    EXPECT_FALSE(dm_system::dir_of_path(dm_string(DM_W("Zelto.exe")), dir));
-    EXPECT_TRUE(dir.empty());
-    EXPECT_FALSE(dm_system::dir_of_path(dm_string(), dir));
+TEST(DmGuid, NewTextHasTheFixedLayoutAndIsNewEachTime) {
+    dm_string text(DM_W("stale")), second;
+    ASSERT_TRUE(dm_new_guid_text(text));
+    ASSERT_TRUE(dm_new_guid_text(second));
+    EXPECT_FALSE(text.equals(second));
+    EXPECT_TRUE(std::regex_match(
+        text.to_utf8().str(),
+        std::regex("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}")));
 }
