@@ -6,19 +6,15 @@
 #include <cstdio>
 #include <string>
 
-#include "core/dm_convert.h"
 #include "core/dm_file_layer.h"
 #include "core/dm_system.h"
+#include "core/platform/native_path_posix.h"
 
 namespace dunmar {
 
-namespace {
+using platform::native_path;
 
-bool native_path(const dm_string& path, std::string& out) {
-    bool complete = false;
-    out = utf16_to_utf8(path.c_str(), path.length(), &complete);
-    return complete && !out.empty();
-}
+namespace {
 
 // A rename lasts only once its folder's entry is on the disk too.
 void flush_folder_of(const dm_string& path) {

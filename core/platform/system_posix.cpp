@@ -5,22 +5,11 @@
 #include <cstdio>
 #include <string>
 
-#include "core/dm_convert.h"
 #include "core/dm_system.h"
+#include "core/platform/native_path_posix.h"
 #include "core/platform/system_platform.h"
 
 namespace dunmar {
-namespace {
-
-// UTF-8 file name of a wide path; false when part of it would be lost.
-bool native_path(const dm_string& path, std::string& out) {
-    bool complete = false;
-    out = utf16_to_utf8(path.c_str(), path.length(), &complete);
-    return complete && !out.empty();
-}
-
-}  // namespace
-
 namespace platform {
 
 std::FILE* open_file(const dm_string& path, file_mode mode) {
@@ -43,7 +32,7 @@ std::FILE* open_file(const dm_string& path, file_mode mode) {
 
 bool dm_system::file_exists(const dm_string& path) {
     std::string name;
-    if (!native_path(path, name))
+    if (!platform::native_path(path, name))
         return false;
     if (access(name.c_str(), F_OK) != 0)
         return false;
