@@ -43,7 +43,7 @@ stop_all() {
   set +e  # every step runs, whatever the one before returned
   trap - EXIT INT TERM
   [ -n "$zpid" ] && kill "$zpid" 2>/dev/null
-  wineserver -k 2>/dev/null
+  wineserver -k 2>/dev/null && wineserver -w 2>/dev/null
   zelto_stop_browser_display
 }
 trap stop_all EXIT
