@@ -83,7 +83,7 @@ TEST_F(LegacyConversion, FilesBecomeCurrentFilesWithTheSameKeys) {
         SCOPED_TRACE(c.password);
         put(c.text);
         ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
-        ASSERT_EQ(zlConvertOk, convert(c.password.c_str()));
+        ASSERT_EQ(0, convert(c.password.c_str()));
         EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
         EXPECT_EQ(c.keys, readBack(c.password.c_str()));
         EXPECT_EQ("<version>" + zlFileItemSettings::programVersion().str() +
@@ -99,7 +99,8 @@ TEST_F(LegacyConversion, FilesBecomeCurrentFilesWithTheSameKeys) {
 }
 
 // Every refusal leaves the file as it was and no working file behind, not even one left
-// by an earlier run that did not end.
+// by an earlier run that did not end. The results are the program's exit codes: 2 wrong
+// password, 3 usage, 4 no file, 5 not legacy, 6 write failed.
 TEST_F(LegacyConversion, RefusalsLeaveTheFileAsItWas) {
     const std::string legacy = ztest::readBytes(ztest::converterData("Legacy.xml"));
     const char* pw = ztest::kLegacyFixturePassword;
@@ -115,23 +116,22 @@ TEST_F(LegacyConversion, RefusalsLeaveTheFileAsItWas) {
         const char* password;
         int result;
     };
-    std::vector<Case> cases = {
-        {legacy, "legacy passworD", zlConvertWrongPassword},
-        {legacy, "8 bytes!", zlConvertWrongPassword},
-        {legacy, "a much longer wrong password than", zlConvertWrongPassword},
-        {ztest::legacyText(otherVerify), "right password", zlConvertWrongPassword},
-        {legacy, nullptr, zlConvertUsage},
-        {legacy, "", zlConvertUsage},
-        {legacy, "7 bytes", zlConvertUsage},
-        {legacy, tooLong.c_str(), zlConvertUsage},
-        {zlSkeletonText(zlMakeVerifyValue(dm_utf8_str(pw))).str(), pw, zlConvertNotLegacy},
-        {ztest::legacyText(noFields), pw, zlConvertNotLegacy},
-        {"", pw, zlConvertNotLegacy},
-        {"<Zelto></Zelto>\r\n", pw, zlConvertNotLegacy},
-        {"plain text that mentions encrypted data", pw, zlConvertNotLegacy}};
+    std::vector<Case> cases = {{legacy, "legacy passworD", 2},
+                               {legacy, "8 bytes!", 2},
+                               {legacy, "a much longer wrong password than", 2},
+                               {ztest::legacyText(otherVerify), "right password", 2},
+                               {legacy, nullptr, 3},
+                               {legacy, "", 3},
+                               {legacy, "7 bytes", 3},
+                               {legacy, tooLong.c_str(), 3},
+                               {zlSkeletonText(zlMakeVerifyValue(dm_utf8_str(pw))).str(), pw, 5},
+                               {ztest::legacyText(noFields), pw, 5},
+                               {"", pw, 5},
+                               {"<Zelto></Zelto>\r\n", pw, 5},
+                               {"plain text that mentions encrypted data", pw, 5}};
     for (const auto& entry : fs::directory_iterator(ztest::converterData(""))) {
         if (entry.path().filename().string().rfind("Broken", 0) == 0)
-            cases.push_back({ztest::readBytes(entry.path()), pw, zlConvertNotLegacy});
+            cases.push_back({ztest::readBytes(entry.path()), pw, 5});
     }
     ASSERT_EQ(cases.size(), 23u);
     for (const Case& c : cases) {
@@ -148,17 +148,17 @@ TEST_F(LegacyConversion, RefusalsLeaveTheFileAsItWas) {
 // before the file is looked for.
 TEST_F(LegacyConversion, MissingUnreadableOrUnwritableFile) {
     const char* pw = ztest::kLegacyFixturePassword;
-    EXPECT_EQ(zlConvertNoFile, convert(pw));
-    EXPECT_EQ(zlConvertNoFile, zlConvertLegacyFile(dm_string(), pw));
-    EXPECT_EQ(zlConvertUsage, convert("7 bytes"));
+    EXPECT_EQ(4, convert(pw));
+    EXPECT_EQ(4, zlConvertLegacyFile(dm_string(), pw));
+    EXPECT_EQ(3, convert("7 bytes"));
     put(oneKey(pw));
     const std::string before = ztest::readBytes(file);
     fs::create_directory(dir / "ZeltoPre.xml.new");
-    EXPECT_EQ(zlConvertWriteFailed, convert(pw));
+    EXPECT_EQ(6, convert(pw));
     EXPECT_EQ(before, ztest::readBytes(file));
     fs::remove(file);
     fs::create_directory(file);
-    EXPECT_EQ(zlConvertNoFile, convert(pw));
+    EXPECT_EQ(4, convert(pw));
 }
 
 // The program's arguments: exactly one, well-formed, converted to its UTF-8 bytes.
@@ -169,8 +169,8 @@ TEST_F(LegacyConversion, CommandTakesOneWidePassword) {
     const dunmar::dm_wchar lone[] = {'p', 'a', 's', 's', 'w', 'o', 'r', 'd', 0xD800, 0};
     for (const std::vector<dm_string>& arguments :
          {std::vector<dm_string>{}, {wide, wide}, {dm_string(lone)}})
-        EXPECT_EQ(zlConvertUsage, zlConverterCommand(arguments, ztest::widePath(file)));
-    ASSERT_EQ(zlConvertOk, zlConverterCommand({wide}, ztest::widePath(file)));
+        EXPECT_EQ(3, zlConverterCommand(arguments, ztest::widePath(file)));
+    ASSERT_EQ(0, zlConverterCommand({wide}, ztest::widePath(file)));
     EXPECT_EQ(oneKeyPlain(password), readBack(password.c_str()));
 }
 

@@ -26,7 +26,7 @@ std::unique_ptr<Text> named(const char* name, Text text) {
 }
 
 // A class without an element name of its own.
-class unnamed_object : public dm_object {
+class unnamed_list : public dm_utf8_strlist {
   public:
     const char* class_name() const override { return ""; }
 };
@@ -79,7 +79,10 @@ TEST(DmXml, OpeningTagSkipsUnnamedAttributesAndNeedsAName) {
     ASSERT_TRUE(o.write_closing_tag(out, "item"));
     EXPECT_EQ(out.str(), "before|<item empty=\"\" tag=\"t\">\n</item>\n");
 
-    const unnamed_object unnamed;
+    // Neither items nor attribute set are written without the element.
+    unnamed_list unnamed;
+    unnamed.append(dm_utf8_str("item"));
+    unnamed.make_attributes().add("k", "v");
     dm_utf8_str kept("kept");
     EXPECT_FALSE(unnamed.write_object(kept));
     EXPECT_FALSE(unnamed.write_closing_tag(kept, ""));

@@ -120,6 +120,8 @@ TEST_F(Tree, KeyFields) {
     EXPECT_EQ("(name=webmail pw=n3w user=joe)", ztest::treeText(key, true));
     EXPECT_EQ("webmail", key.plainName().str());
     dm_utf8_str plain("junk");
+    ASSERT_TRUE(key.plainField(zlTypeKeyUser, plain));
+    EXPECT_EQ("joe", plain.str());
     ASSERT_TRUE(key.plainField(zlTypeKeyNote, plain));
     EXPECT_TRUE(plain.empty());
 
