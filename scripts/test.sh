@@ -176,7 +176,7 @@ fi
 note "Windows tests under Wine"
 # shellcheck source=xvfb.sh
 . scripts/xvfb.sh
-if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix"; then
+if zelto_start_xvfb && scripts/wine-prefix.sh "$root/build/windows/wineprefix" --unmanaged; then
   # --- cloud export: the table service emulator that cloud_service_tests writes to; it
   # exports ZELTO_CLOUD_CONNECTION_STRING for ctest and stops when this script exits. ---
   # shellcheck source=azurite.sh

@@ -85,15 +85,9 @@ done
 [ -n "$devtools" ] || { tail -n 20 "$work/chrome.log" >&2; fail "chromium did not start"; }
 
 mkdir -p "$(dirname "$shot")"
+# It ends with 0 once the page's picture holds enough pixels of the dialog colour.
 /usr/bin/python3 "$root/tests/zelto/browser_shot.py" "$devtools" "$url" "$shot" 240 ||
   fail "the page did not show the dialog within 240 s (see $shot)"
-colours=$(identify -format '%k' "$shot")
-dialog=$(stream -map rgb -storage-type char "$shot" - | /usr/bin/python3 -c '
-import sys
-d = sys.stdin.buffer.read()
-print(sum(1 for i in range(0, len(d), 3) if d[i:i + 3] == b"\xcc\x93\x93"))')
-[ "$colours" -gt 50 ] && [ "$dialog" -gt 20000 ] ||
-  fail "the screenshot looks blank: $colours colours, $dialog pixels of the dialog colour"
 echo "ok   the browser shows the Set Master Password dialog ($shot)"
 
 stop_run
