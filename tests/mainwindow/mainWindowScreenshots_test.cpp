@@ -13,9 +13,10 @@ namespace {
 
 TEST_F(MainWindowTest, PictureShowsEveryTextWholeOnTheBackground) {
     zlSetLanguage(zlLanguageGerman);
-    addKeys({{"Bank", "money, home"}, {"Mail", "work, home"}, {"Railway season ticket", "travel"}});
-    open();
-    scroll(SB_THUMBPOSITION, 4);
+    openWith(
+        {{"Bank", "money, home"}, {"Mail", "work, home"}, {"Railway season ticket", "travel"}});
+    SendMessageW(main(), WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 4),
+                 reinterpret_cast<LPARAM>(child(idPartialShow)));
     selectRow(1);
     RedrawWindow(main(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
