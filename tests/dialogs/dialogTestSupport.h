@@ -7,64 +7,34 @@
 
 #include "app/zlTexts.h"
 #include "core/dm_string.h"
+#include "res/resource.h"
 #include "ui/shellOpen.h"
+#include "ui/support/dialogDriver.h"
 
 namespace ztest {
 
-inline HINSTANCE thisModule() {
-    return GetModuleHandleW(nullptr);
-}
+inline const HINSTANCE kModule = GetModuleHandleW(nullptr);
 
 // Records what the dialogs ask the shell to open instead of opening it.
-class ShellRecorder {
-  public:
+struct ShellRecorder {
+    static inline std::vector<std::wstring> opened;
     ShellRecorder() {
         opened.clear();
-        dunmar::setShellOpenFunction([](HWND, const dunmar::dm_string& target) -> intptr_t {
-            opened.push_back(target.str());
-            return 33;
+        dunmar::setShellOpenFunction([](HWND, const dunmar::dm_string& target) {
+            return opened.push_back(target.str()), intptr_t(33);
         });
     }
     ~ShellRecorder() { dunmar::setShellOpenFunction(nullptr); }
-    const std::vector<std::wstring>& targets() const { return opened; }
-
-  private:
-    static inline std::vector<std::wstring> opened;
 };
 
-// The dialog tests read English unless a test sets another language: the automatic choice
-// would follow the language of whatever machine runs them.
+// English unless a test sets another language (and puts English back): the automatic choice
+// would follow the language of whatever machine runs the tests.
 inline const bool englishByDefault = (Zelto::zlSetLanguage(Zelto::zlLanguageEnglish), true);
 
-// Sets the interface language for one test and puts English back afterwards.
-struct LanguageScope {
-    explicit LanguageScope(int language) { Zelto::zlSetLanguage(language); }
-    ~LanguageScope() { Zelto::zlSetLanguage(Zelto::zlLanguageEnglish); }
-};
-
-inline std::wstring text(int id) {
-    return Zelto::zlText(id);
-}
-
-inline std::string describe(const RECT& r) {
-    return std::to_string(r.left) + "," + std::to_string(r.top) + " " +
-           std::to_string(r.right - r.left) + "x" + std::to_string(r.bottom - r.top);
-}
-
-inline SIZE clientSize(HWND window) {
-    RECT rect = {};
-    GetClientRect(window, &rect);
-    return SIZE{rect.right, rect.bottom};
-}
-
 inline SIZE outerSize(HWND window) {
-    RECT rect = {};
-    GetWindowRect(window, &rect);
-    return SIZE{rect.right - rect.left, rect.bottom - rect.top};
-}
-
-inline void resizeTo(HWND window, int width, int height) {
-    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    RECT r = {};
+    GetWindowRect(window, &r);
+    return SIZE{r.right - r.left, r.bottom - r.top};
 }
 
 }  // namespace ztest

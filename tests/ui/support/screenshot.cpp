@@ -12,19 +12,18 @@ namespace ztest {
 
 std::vector<DialogStep> captureSteps(RgbImage& image) {
     std::vector<DialogStep> steps(5, [](HWND) {});
-    steps[0] = [](HWND dialog) {
-        RedrawWindow(dialog, nullptr, nullptr,
+    steps[0] = [](HWND d) {
+        RedrawWindow(d, nullptr, nullptr,
                      RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     };
-    steps.push_back([&image](HWND dialog) { image = readScreen(dialog); });
+    steps.push_back([&image](HWND d) { image = readScreen(d); });
     return steps;
 }
 
 RgbImage readScreen(HWND window) {
     RgbImage image;
-    RECT frame;
-    if (!GetWindowRect(window, &frame))
-        return image;
+    RECT frame = {};
+    GetWindowRect(window, &frame);
     image.width = frame.right - frame.left;
     image.height = frame.bottom - frame.top;
     HDC screen = GetDC(nullptr);
@@ -78,15 +77,6 @@ int countColour(const RgbImage& image, const RECT& area, COLORREF colour) {
         }
     }
     return count;
-}
-
-RECT rectInCapture(HWND child) {
-    RECT rect = {};
-    RECT frame = {};
-    GetWindowRect(child, &rect);
-    GetWindowRect(GetAncestor(child, GA_ROOT), &frame);
-    OffsetRect(&rect, -frame.left, -frame.top);
-    return rect;
 }
 
 }  // namespace ztest
