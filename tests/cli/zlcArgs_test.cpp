@@ -11,100 +11,68 @@ using namespace Zelto;
 
 namespace {
 
-struct Parsed {
-    bool ok;
-    zlcArgs args;
+// The parse as one line: command, arguments in [], options sorted by name, then the
+// file, help and version; or the error.
+std::string parsed(const std::vector<std::string>& argv) {
+    zlcArgs a;
     std::string error;
-};
-
-Parsed parse(std::vector<std::string> argv) {
-    Parsed p;
-    p.ok = zlcParseArgs(argv, p.args, p.error);
-    return p;
+    if (!zlcParseArgs(argv, a, error))
+        return "error: " + error;
+    std::string text = a.command ? a.command->name : "-";
+    for (const std::string& argument : a.arguments)
+        text += " [" + argument + "]";
+    for (const auto& v : a.values)
+        text += " " + v.first + "=" + v.second;
+    for (const std::string& flag : a.flags)
+        text += " " + flag;
+    return text + (a.hasFile ? " file=" + a.file : "") + (a.help ? " help" : "") +
+           (a.version ? " version" : "");
 }
 
-TEST(zlcArgs, OptionsTakeValuesInBothForms) {
-    Parsed p = parse({"--file", "/k/Zelto.xml", "add", "bank", "--label=home, work", "--user",
-                      "--odd", "--generate", "--note="});
-    ASSERT_TRUE(p.ok) << p.error;
-    EXPECT_EQ("add", std::string(p.args.command->name));
-    EXPECT_EQ(std::vector<std::string>{"bank"}, p.args.arguments);
-    EXPECT_TRUE(p.args.hasFile);
-    EXPECT_EQ("/k/Zelto.xml", p.args.file);
-    ASSERT_NE(nullptr, p.args.value("label"));
-    EXPECT_EQ("home, work", *p.args.value("label"));
-    // A value may begin with dashes: it is taken as it stands.
-    EXPECT_EQ("--odd", *p.args.value("user"));
-    EXPECT_EQ("", *p.args.value("note"));
-    EXPECT_EQ(nullptr, p.args.value("email"));
-    EXPECT_TRUE(p.args.flag("generate"));
-    EXPECT_FALSE(p.args.flag("password-stdin"));
-}
-
-TEST(zlcArgs, GlobalOptionsStandAnywhereAndDashesEndOptions) {
-    Parsed p = parse({"get", "--", "--file", "pw"});
-    ASSERT_TRUE(p.ok) << p.error;
-    EXPECT_FALSE(p.args.hasFile);
-    EXPECT_EQ((std::vector<std::string>{"--file", "pw"}), p.args.arguments);
-    p = parse({"get", "#2", "pw", "--file=x.xml"});
-    ASSERT_TRUE(p.ok) << p.error;
-    EXPECT_EQ("x.xml", p.args.file);
-    // A name that looks like an option reaches the command after "--".
-    p = parse({"add", "--", "-dash"});
-    ASSERT_TRUE(p.ok) << p.error;
-    EXPECT_EQ(std::vector<std::string>{"-dash"}, p.args.arguments);
-}
-
-TEST(zlcArgs, HelpForTheToolAndForEachCommand) {
-    const std::pair<std::vector<std::string>, const char*> cases[] = {
-        {{"--help"}, nullptr},        {{"-h"}, nullptr},
-        {{"help"}, nullptr},          {{"help", "show"}, "show"},
-        {{"show", "--help"}, "show"}, {{"--help", "show"}, "show"},
-        {{"show", "-h"}, "show"},
+// Options take "--name value" or "--name=value", a value as it stands even with dashes;
+// global options stand anywhere; "--" ends the options; "help" is "--help".
+TEST(zlcArgs, WhatIsTakenAndWhatIsRefused) {
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{"--file", "/k/Zelto.xml", "add", "bank", "--label=home, work", "--user", "--odd",
+          "--generate", "--note="},
+         "add [bank] label=home, work note= user=--odd generate file=/k/Zelto.xml"},
+        {{"get", "--", "--file", "pw"}, "get [--file] [pw]"},
+        {{"get", "#2", "pw", "--file=x.xml"}, "get [#2] [pw] file=x.xml"},
+        {{"ls", "--json", "--trash", "--label", "a"}, "ls label=a json trash"},
+        {{"--help"}, "- help"},
+        {{"-h"}, "- help"},
+        {{"help"}, "- help"},
+        {{"help", "show"}, "show help"},
+        {{"show", "--help"}, "show help"},
+        {{"--help", "show"}, "show help"},
+        {{"--version"}, "- version"},
+        {{"help", "nosuch"}, "error: unknown command 'nosuch'"},
+        {{"help", "ls", "show"}, "error: help takes at most one command"},
+        {{}, "error: no command given"},
+        {{"frobnicate"}, "error: unknown command 'frobnicate'"},
+        {{"ls", "--reveal"}, "error: 'ls' takes no option --reveal"},
+        {{"--json", "ls"}, "error: unknown option --json"},
+        {{"ls", "-x"}, "error: unknown option '-x'"},
+        {{"show"}, "error: 'show' needs KEY"},
+        {{"get", "bank"}, "error: 'get' needs KEY FIELD"},
+        {{"get", "a", "b", "c"}, "error: 'get' takes only KEY FIELD; unexpected 'c'"},
+        {{"ls", "extra"}, "error: 'ls' takes no arguments; unexpected 'extra'"},
+        {{"ls", "--label"}, "error: --label needs a value (L)"},
+        {{"ls", "--json=yes"}, "error: --json takes no value"},
+        {{"ls", "--json", "--json"}, "error: --json given twice"},
+        {{"ls", "--label", "a", "--label=b"}, "error: --label given twice"},
+        {{"--file", "a", "ls", "--file", "b"}, "error: --file given twice"},
     };
-    for (const auto& c : cases) {
-        Parsed p = parse(c.first);
-        ASSERT_TRUE(p.ok) << c.first[0] << ": " << p.error;
-        EXPECT_TRUE(p.args.help) << c.first[0];
-        EXPECT_EQ(std::string(c.second ? c.second : ""), p.args.command ? p.args.command->name : "")
-            << c.first[0];
-    }
-    EXPECT_TRUE(parse({"--version"}).args.version);
-    EXPECT_FALSE(parse({"help", "nosuch"}).ok);
-    EXPECT_FALSE(parse({"help", "ls", "show"}).ok);
-}
-
-TEST(zlcArgs, WhatACommandDoesNotTakeIsRefused) {
-    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
-        {{}, "no command given"},
-        {{"frobnicate"}, "unknown command 'frobnicate'"},
-        {{"ls", "--reveal"}, "'ls' takes no option --reveal"},
-        {{"--json", "ls"}, "unknown option --json"},
-        {{"ls", "-x"}, "unknown option '-x'"},
-        {{"show"}, "'show' needs KEY"},
-        {{"get", "bank"}, "'get' needs KEY FIELD"},
-        {{"get", "a", "b", "c"}, "'get' takes only KEY FIELD; unexpected 'c'"},
-        {{"ls", "extra"}, "'ls' takes no arguments; unexpected 'extra'"},
-        {{"ls", "--label"}, "--label needs a value (L)"},
-        {{"ls", "--json=yes"}, "--json takes no value"},
-        {{"ls", "--json", "--json"}, "--json given twice"},
-        {{"ls", "--label", "a", "--label=b"}, "--label given twice"},
-        {{"--file", "a", "ls", "--file", "b"}, "--file given twice"},
-    };
-    for (const auto& c : cases) {
-        Parsed p = parse(c.first);
-        EXPECT_FALSE(p.ok) << c.second;
-        EXPECT_EQ(c.second, p.error);
-    }
+    for (const auto& c : cases)
+        EXPECT_EQ(c.second, parsed(c.first));
 }
 
 // Each command's usage line, with its placeholders filled in, is a command line the parser
-// takes.
+// takes; commands that take a KEY say how one is named.
 TEST(zlcArgs, UsageLinesOfTheHelpParse) {
     for (const zlcCommandSpec& command : zlcCommands()) {
         const std::string help = zlcCommandHelp(command);
-        ASSERT_EQ(0u, help.find("Usage: zelto-cli ")) << help;
-        // Commands that take a KEY say how one is named.
+        ASSERT_EQ(0u, help.find("Usage: zelto-cli [--file PATH] ")) << help;
         EXPECT_EQ(help.find(" KEY") < help.find('\n'),
                   help.find("KEY is a key's name") != std::string::npos)
             << help;
@@ -112,24 +80,18 @@ TEST(zlcArgs, UsageLinesOfTheHelpParse) {
         std::vector<std::string> argv;
         std::string word;
         while (usage >> word) {
-            const bool optional = word.front() == '[';
-            if (optional)
-                word = word.substr(1);
-            while (!word.empty() && word.back() == ']')
-                word.pop_back();
+            word.erase(std::remove(word.begin(), word.end(), '['), word.end());
+            word.erase(std::remove(word.begin(), word.end(), ']'), word.end());
             // The two password sources exclude each other.
             if (word == "--password-stdin" &&
                 std::find(argv.begin(), argv.end(), "--generate") != argv.end())
                 continue;
             if (word.compare(0, 2, "--") == 0 || word == command.name)
                 argv.push_back(word);
-            else if (word == "COMMAND")
-                argv.push_back("ls");
             else
-                argv.push_back(word == "FIELD" ? "pw" : "value-of-" + word);
+                argv.push_back(word == "FIELD" ? "pw" : word == "COMMAND" ? "ls" : "v-" + word);
         }
-        Parsed p = parse(argv);
-        EXPECT_TRUE(p.ok) << command.name << ": " << p.error;
+        EXPECT_EQ(std::string::npos, parsed(argv).find("error")) << parsed(argv);
     }
 }
 

@@ -1,16 +1,13 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <string>
 #include <vector>
 
-#include <cstdlib>
+#include <nlohmann/json.hpp>
 
-#include "cloud/zlCloudConfig.h"
 #include "cloud/zlHttpTransport.h"
 #include "core/dm_convert.h"
-#include "core/dm_guid.h"
 #include "model/zlKeyFile.h"
 #include "model/zlVerify.h"
 #include "support/test_util.h"
@@ -19,24 +16,6 @@ namespace ztest {
 
 inline std::string utf8(const dunmar::dm_string& text) {
     return dunmar::utf16_to_utf8(text.c_str(), text.length());
-}
-
-// A fresh text for table keys, so that records of earlier runs do no harm.
-inline std::string uniqueText() {
-    dunmar::dm_string guid;
-    dunmar::dm_new_guid_text(guid);
-    return utf8(guid);
-}
-
-// The emulator that scripts/test.sh starts and names in the environment; empty when none.
-// Under CI a missing one is an error; elsewhere tests that need it skip.
-inline std::string tableServiceConnectionString() {
-    const char* value = std::getenv(Zelto::zlCloudConnectionStringVariable);
-    return value ? value : "";
-}
-inline bool underCi() {
-    const char* ci = std::getenv("CI");
-    return ci != nullptr && std::string(ci) == "true";
 }
 
 // The emulator's well-known account, as UseDevelopmentStorage=true has it.
@@ -48,50 +27,39 @@ inline std::string devConnectionString(const std::string& endpoint) {
            kDevKey + ";TableEndpoint=" + endpoint;
 }
 
+// "Data", or "Data" + "Data2" + ... when the record holds DataParts parts.
+inline std::string joinedData(const nlohmann::json& entity) {
+    std::string joined = entity.value("Data", std::string("<none>"));
+    for (int i = 2; i <= entity.value("DataParts", 1); ++i)
+        joined += entity.value("Data" + std::to_string(i), std::string("<missing part>"));
+    return joined;
+}
+
 // Records every request and answers from a script; an empty script answers 204.
-class FakeTransport : public Zelto::zlHttpTransport {
-  public:
-    struct Answer {
-        Zelto::zlCloudResult result;
-        Zelto::zlHttpResponse response;
-    };
-
-    void answer(int status, const std::string& body = std::string()) {
-        Answer a;
-        a.response.status = status;
-        a.response.body = body;
-        script.push_back(a);
+struct FakeTransport : Zelto::zlHttpTransport {
+    void answer(int status, const std::string& body = "", int code = Zelto::zlCloudOk,
+                const std::string& reason = "") {
+        script.push_back({{code, reason}, {status, body}});
     }
-    void failWith(int code, const std::string& reason) {
-        Answer a;
-        a.result = Zelto::zlCloudFailure(code, reason);
-        script.push_back(a);
-    }
-
     Zelto::zlCloudResult send(const Zelto::zlHttpRequest& request,
                               Zelto::zlHttpResponse& response) override {
         requests.push_back(request);
-        if (onSend)
-            onSend(request);
-        Answer a;
-        a.response.status = 204;
+        std::pair<Zelto::zlCloudResult, Zelto::zlHttpResponse> next{{}, {204, ""}};
         if (!script.empty()) {
-            a = script.front();
+            next = script.front();
             script.pop_front();
         }
-        response = a.response;
-        return a.result;
+        response = next.second;
+        return next.first;
     }
-
     std::vector<Zelto::zlHttpRequest> requests;
-    std::deque<Answer> script;
-    std::function<void(const Zelto::zlHttpRequest&)> onSend;
+    std::deque<std::pair<Zelto::zlCloudResult, Zelto::zlHttpResponse>> script;
 };
 
 // A key file under kLongPass with the three user fields, a verify value and `keys` keys with
-// all seven fields filled.
-inline void fillKeyFile(Zelto::zlKeyFile& file, const char* first, const char* last,
-                        const char* email, int keys) {
+// all seven fields filled ("pw-1-secret" the second one's password).
+inline void fillKeyFile(Zelto::zlKeyFile& file, const std::string& first, const std::string& last,
+                        const std::string& email, int keys) {
     file.set_pass_phrase(kLongPass);
     auto* settings = new Zelto::zlFileItemSettings(&file);
     settings->verify = Zelto::zlMakeVerifyValue(dunmar::dm_utf8_str(kLongPass));
@@ -99,21 +67,24 @@ inline void fillKeyFile(Zelto::zlKeyFile& file, const char* first, const char* l
     settings->setUserLastName(dunmar::dm_utf8_str(last), true);
     settings->setUserEmail(dunmar::dm_utf8_str(email), true);
     file.root().appendChild(settings);
-    auto* list = new Zelto::zlFileItemKeys(&file);
-    file.root().appendChild(list);
+    file.root().appendChild(new Zelto::zlFileItemKeys(&file));
     for (int i = 0; i < keys; ++i) {
         auto* key = new Zelto::zlFileItemKey(&file);
-        const std::string n = std::to_string(i);
-        const std::string fields[] = {"account " + n,
-                                      "label",
-                                      "user" + n,
-                                      "pw-" + n + "-secret",
-                                      "u" + n + "@mail.example",
-                                      "https://site" + n + ".example",
-                                      "note " + n};
-        for (int f = 0; f < 7; ++f)
-            key->setField(Zelto::zlTypeKeyName + f, enc(file, fields[f].c_str()));
-        list->appendChild(key);
+        for (int f = 0; f < 7; ++f) {
+            const std::string text = (f == 3 ? "pw-" : "field" + std::to_string(f) + "-") +
+                                     std::to_string(i) + (f == 3 ? "-secret" : ".example");
+            key->setField(Zelto::zlTypeKeyName + f, enc(file, text.c_str()));
+        }
+        file.keys()->appendChild(key);
+    }
+}
+
+// Ten keys with a note of 40000 characters each: too large for one record.
+inline void addHugeNotes(Zelto::zlKeyFile& file) {
+    for (int i = 0; i < 10; ++i) {
+        auto* key = new Zelto::zlFileItemKey(&file);
+        key->setNote(enc(file, std::string(40000, 'n').c_str()));
+        file.keys()->appendChild(key);
     }
 }
 
