@@ -22,42 +22,31 @@ const Fields kBefore = {L"Bank", L"money", L"me", L"pw12345678", L"", L"", L"not
 Fields plainFields(const Zelto::zlFileItemKey* key) {
     Zelto::zlKeyFields fields;
     Fields out;
-    if (key && Zelto::zlReadKeyFields(*key, fields)) {
-        for (const auto& value : fields.value)
-            out.push_back(value.to_wide().str());
-    }
+    for (size_t i = 0; key && Zelto::zlReadKeyFields(*key, fields) && i < 7; ++i)
+        out.push_back(fields.value[i].to_wide().str());
     return out;
 }
-
-// A file with a master password and one key holding kBefore; proposals from a fixed identifier.
-struct KeyFile {
-    Zelto::zlKeyFile file;
-    Zelto::zlFileItemKey* key = nullptr;
-    KeyFile() {
-        DlgEditKey::setGuidSource([](dunmar::dm_string& out) {
-            return out = dunmar::dm_string(L"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"), true;
-        });
-        Zelto::zlKeyFields fields;
-        for (size_t i = 0; i < 7; ++i)
-            fields.value[i] = dunmar::dm_string(kBefore[i].c_str()).to_utf8();
-        file.set_pass_phrase(kLongPass);
-        key = Zelto::zlAddKey(file, fields);
-    }
-};
 
 }  // namespace
 
 TEST(DlgEditKey, KeepsTheKeyUnlessAChangeIsStoredAndAsksBeforeReplacingAPassword) {
-    KeyFile k;
-    Zelto::zlKeyFile empty;  // no master password: nothing can be enciphered
+    DlgEditKey::setGuidSource([](dunmar::dm_string& out) {  // proposals from a fixed identifier
+        return out = dunmar::dm_string(L"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"), true;
+    });
+    Zelto::zlKeyFields fields;  // a file with a master password and one key holding kBefore
+    for (size_t i = 0; i < 7; ++i)
+        fields.value[i] = dunmar::dm_string(kBefore[i].c_str()).to_utf8();
+    Zelto::zlKeyFile file, empty;  // no master password: nothing can be enciphered
+    file.set_pass_phrase(kLongPass);
+    Zelto::zlFileItemKey* key = Zelto::zlAddKey(file, fields);
     // Cancel, OK with nothing changed, OK with a new key that cannot be enciphered.
     const struct {
         Zelto::zlKeyFile& file;
         Zelto::zlFileItemKey* key;
         const wchar_t* user;
         int button;
-    } cases[] = {{k.file, k.key, L"someone", IDCANCEL},
-                 {k.file, k.key, L"me", IDOK},
+    } cases[] = {{file, key, L"someone", IDCANCEL},
+                 {file, key, L"me", IDOK},
                  {empty, nullptr, L"someone", IDOK}};
     for (const auto& c : cases) {
         DlgEditKey edit(kModule, nullptr, c.file, c.key);
@@ -69,9 +58,9 @@ TEST(DlgEditKey, KeepsTheKeyUnlessAChangeIsStoredAndAsksBeforeReplacingAPassword
         EXPECT_EQ(nullptr, edit.storedKey());
     }
     EXPECT_EQ(nullptr, empty.keys());
-    EXPECT_EQ(kBefore, plainFields(k.key));
+    EXPECT_EQ(kBefore, plainFields(key));
 
-    DlgEditKey edit(kModule, nullptr, k.file, k.key);
+    DlgEditKey edit(kModule, nullptr, file, key);
     Fields seen;  // the fields shown, then the password before each proposal and after the last
     Fields typed = {
         L"Post office",           L"home, work",          L"m\x00FCller", L"", L"m@example.org",
@@ -98,9 +87,9 @@ TEST(DlgEditKey, KeepsTheKeyUnlessAChangeIsStoredAndAsksBeforeReplacingAPassword
     Fields expected = kBefore;
     expected.insert(expected.end(), {L"pw12345678", L"pw12345678", proposal});
     EXPECT_EQ(expected, seen);
-    EXPECT_EQ(1u, k.file.keys()->childCount());  // changed in place
-    EXPECT_EQ(k.key, edit.storedKey());
+    EXPECT_EQ(1u, file.keys()->childCount());  // changed in place
+    EXPECT_EQ(key, edit.storedKey());
     EXPECT_EQ(L"Post office", edit.storedName().str());
     typed[3] = proposal;
-    EXPECT_EQ(typed, plainFields(k.key));
+    EXPECT_EQ(typed, plainFields(key));
 }

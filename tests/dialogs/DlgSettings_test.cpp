@@ -13,12 +13,9 @@ using namespace ztest;
 using Zelto::DlgSettings;
 using Values = std::vector<int>;  // automatic lock, clipboard, selected key
 
-namespace {
-std::vector<Values> saves;  // every save, with the settings at that moment
-int failing = 0;            // how many of the next saves fail
-}  // namespace
-
 TEST(DlgSettings, EachValueIsClampedToItsRangeAndSavedBeforeTheNextIsRead) {
+    static std::vector<Values> saves;  // every save, with the settings at that moment
+    static int failing = 0;            // how many of the next saves fail
     Zelto::zlKeyFile file;
     file.root().appendChild(new Zelto::zlFileItemSettings(&file));
     DlgSettings::setKeyFileSaver([](Zelto::zlKeyFile& f) {

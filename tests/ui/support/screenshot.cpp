@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "ui/textExtent.h"
+
 namespace ztest {
 
 std::vector<DialogStep> captureSteps(RgbImage& image) {
@@ -77,6 +79,23 @@ int countColour(const RgbImage& image, const RECT& area, COLORREF colour) {
         }
     }
     return count;
+}
+
+std::vector<int> textsCut(HWND window) {
+    std::vector<int> cut;
+    for (HWND c = GetWindow(window, GW_CHILD); c; c = GetWindow(c, GW_HWNDNEXT)) {
+        wchar_t cls[32] = {};
+        GetClassNameW(c, cls, 32);
+        const int margin = lstrcmpiW(cls, L"Button") == 0 ? 8 : 0;  // the frame around it
+        const std::wstring text = textOf(c);
+        const SIZE need = dunmar::textExtent(c, dunmar::dm_string(text.c_str()));
+        RECT inside;
+        GetClientRect(c, &inside);
+        if (IsWindowVisible(c) && (margin || lstrcmpiW(cls, L"Static") == 0) && !text.empty() &&
+            (need.cx + margin > inside.right || need.cy > inside.bottom))
+            cut.push_back(GetDlgCtrlID(c));
+    }
+    return cut;
 }
 
 }  // namespace ztest

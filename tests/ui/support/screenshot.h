@@ -27,5 +27,7 @@ std::vector<DialogStep> captureSteps(RgbImage& image);
 std::string saveScreenshot(const RgbImage& image, const std::string& name);
 // How many pixels of the rectangle (window coordinates) have exactly this colour.
 int countColour(const RgbImage& image, const RECT& area, COLORREF colour);
+// The ids of the visible buttons and statics whose text does not fit inside them.
+std::vector<int> textsCut(HWND window);
 
 }  // namespace ztest
