@@ -44,15 +44,8 @@ fail() {
   exit 1
 }
 
-port=""
-for i in $(seq 1 50); do
-  candidate=$((20000 + RANDOM % 20000))
-  if ! (exec 3<>"/dev/tcp/127.0.0.1/$candidate") 2>/dev/null; then
-    port=$candidate
-    break
-  fi
-done
-[ -n "$port" ] || fail "no free port"
+port=$(/usr/bin/python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])') ||
+  fail "no free port"
 
 # Sessions of their own, so that whatever run.sh or chromium leave is found by its group.
 env -u DISPLAY ZELTO_RUN_DIR="$work/run" ZELTO_WEB_PORT="$port" \
