@@ -2,85 +2,50 @@
 // program carries as its resource 137, elsewhere in this process.
 #include "app/zlConversion.h"
 
-#include <gtest/gtest.h>
+#include <tuple>
 
-#include <filesystem>
-#include <string>
-
-#include "app/zlConverterRun.h"
-#include "app/zlInstance.h"
 #include "app/zlTexts.h"
-#include "model/zlVerify.h"
-#include "support/legacy_fixture.h"
+#include "app_test_util.h"
+#include "core/dm_file_layer.h"
 #include "support/legacy_writer.h"
-#include "support/program_files.h"
-#include "support/test_util.h"
 
-using namespace Zelto;
-using dunmar::dm_string;
-using dunmar::dm_utf8_str;
-namespace fs = std::filesystem;
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
-namespace {
+const char* const kBackup = "Zelto.backup.2026_03_09_00_00_00_0815.xml";
 
-std::string narrow(const dm_string& text) {
-    return text.to_utf8().str();
-}
-
-class Conversion : public ::testing::Test {
+class Conversion : public ProgramFolder {
   protected:
-    void SetUp() override {
-        files = ztest::programFilesIn(dir);
-        legacyBytes = ztest::readBytes(ztest::converterData("Legacy.xml"));
-        ztest::writeBytes(keyFile, legacyBytes);
-    }
+    void SetUp() override { write(readBytes(converterData("Legacy.xml"))); }
     void TearDown() override { zlSetLanguage(zlLanguageAuto); }
-
-    int readWithConversion(const char* password) {
+    void write(const std::string& bytes) {
+        legacy = bytes;
+        writeBytes(dir / "Zelto.xml", bytes);
+    }
+    int read(const char* password, zlConverterRunner run = zlRunConverter) {
         file.set_pass_phrase(password);
-        return zlReadWithConversion(file, files, dm_utf8_str(password), detail);
+        return zlReadWithConversion(file, files, dm_utf8_str(password), detail, run);
     }
-    void expectTemporariesGone() {
-        EXPECT_FALSE(fs::exists(dir / "ZeltoPre.exe"));
-        EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml"));
-        EXPECT_FALSE(fs::exists(dir / "ZeltoPre.xml.new"));
-    }
-    void expectUntouched() {
-        EXPECT_EQ(legacyBytes, ztest::readBytes(keyFile));
-        EXPECT_FALSE(fs::exists(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml"));
-        expectTemporariesGone();
-    }
-
-    ztest::TempDir dir;
-    fs::path keyFile = dir / "Zelto.xml";
-    zlFileSet files;
-    std::string legacyBytes;
-    zlKeyFile file;
-    dm_string detail;
+    std::string legacy;
 };
 
 TEST_F(Conversion, OlderFileIsConvertedBackedUpAndReadBack) {
     zlSetLanguage(zlLanguageEnglish);
-    ASSERT_EQ(zlReadOk, readWithConversion(ztest::kLegacyFixturePassword)) << narrow(detail);
+    ASSERT_EQ(zlReadOk, read(kLegacyFixturePassword)) << u8(detail);
     EXPECT_TRUE(detail.empty());
-
-    // The tree in memory, under the same password.
-    EXPECT_EQ(zlPasswordRight, zlCheckPassword(file));
-    EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(file));
-    EXPECT_TRUE(files.keyFile.equals(file.path()));
-
-    // The file on disk, read afresh.
     zlKeyFile again;
+    again.set_pass_phrase(kLegacyFixturePassword);
     ASSERT_EQ(zlReadOk, again.readFile(files.keyFile));
-    ASSERT_EQ(0, again.set_pass_phrase(ztest::kLegacyFixturePassword));
-    EXPECT_EQ(zlPasswordRight, zlCheckPassword(again));
-    EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(again));
-    // Written back under the file's language, not the interface's.
-    EXPECT_EQ("Deutsch", again.settings()->language.str());
-    EXPECT_EQ(45, again.settings()->autoClearClipboard);
-
-    EXPECT_EQ(legacyBytes, ztest::readBytes(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml"));
-    expectTemporariesGone();
+    for (const zlKeyFile* tree : {&file, &again}) {
+        EXPECT_EQ(zlPasswordRight, zlCheckPassword(*tree));
+        EXPECT_EQ(legacyFixtureKeys(), plainKeys(*tree));
+        // Written back under the file's language, not the interface's.
+        EXPECT_EQ("Deutsch 45", tree->settings()->language.str() + " " +
+                                    std::to_string(tree->settings()->autoClearClipboard));
+    }
+    EXPECT_EQ(legacy, readBytes(dir / kBackup));
+    EXPECT_EQ((Texts{kBackup, "Zelto.xml"}), filesIn(dir));
 }
 
 // Quotes and backslashes, which the converter's argument parsing treats specially, and a
@@ -89,71 +54,67 @@ TEST_F(Conversion, PasswordsWithQuotesBackslashesAndBlanksConvert) {
     for (const std::string password : {"pass\"word12", "password12\\", "pass\\\\\"word1",
                                        "a\\b\\\\c\\\\\\\"d12", "pass word 12"}) {
         SCOPED_TRACE(password);
-        ztest::LegacyFile legacy;
-        legacy.password = password;
-        legacy.keys.push_back({{"name", true, "shop"}, {"pw", false, password}});
-        ztest::writeBytes(keyFile, ztest::legacyText(legacy));
-        fs::remove(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml");
-        ASSERT_EQ(zlReadOk, readWithConversion(password.c_str())) << narrow(detail);
-        EXPECT_EQ(std::vector<std::string>{"name=shop|pw=" + password}, ztest::plainKeys(file));
+        LegacyFile older;
+        older.password = password;
+        older.keys.push_back({{"name", true, "shop"}, {"pw", false, password}});
+        write(legacyText(older));
+        fs::remove(dir / kBackup);
+        ASSERT_EQ(zlReadOk, read(password.c_str())) << u8(detail);
+        EXPECT_EQ(Texts{"name=shop|pw=" + password}, plainKeys(file));
     }
 }
 
-// The converter's exit code reaches the detail; the older file stays as it was.
-TEST_F(Conversion, RefusedConversionLeavesTheOlderFileAlone) {
-    const struct {
-        const char* fixture;
-        const char* password;
-        const char* detail;
-    } cases[] = {
-        {"Legacy.xml", "not the password", "failed to run ZeltoPre.exe () - (Incorrect password)"},
-        {"BrokenMismatchedTags.xml", ztest::kLegacyFixturePassword,
-         "failed to run ZeltoPre.exe () - (5)"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.fixture);
-        legacyBytes = ztest::readBytes(ztest::converterData(c.fixture));
-        ztest::writeBytes(keyFile, legacyBytes);
-        EXPECT_EQ(zlReadFailed, readWithConversion(c.password));
-        EXPECT_EQ(c.detail, narrow(detail));
-        expectUntouched();
+// Stands in for the converter: reports, and ends with the number the password starts with.
+// "0 bare" leaves a file of the current format that holds neither settings nor keys.
+static bool reportingRun(const zlFileSet& files, const dm_utf8_str& password, dm_string& detail,
+                         unsigned long& exitCode) {
+    detail = w("its report");
+    exitCode = std::stoul(password.str());
+    if (password.str() == "0 bare")
+        dunmar::dm_save_file(files.workingCopy,
+                             "<?xml version=\"1.0\"?>\r\n<Zelto>\r\n</Zelto>\r\n");
+    return exitCode == 0;
+}
+
+// What the converter left out, the reading adds and writes back at once: default settings
+// and an empty key list.
+TEST_F(Conversion, ConvertedTreeIsCompleted) {
+    ASSERT_EQ(zlReadOk, read("0 bare", reportingRun)) << u8(detail);
+    zlKeyFile again;
+    ASSERT_EQ(zlReadOk, again.readFile(files.keyFile));
+    for (const zlKeyFile* tree : {&file, &again})
+        EXPECT_TRUE(tree->root().childCount() == 2 && tree->settings() && tree->keys() &&
+                    tree->keys()->childCount() == 0);
+}
+
+// Each failure names its step; the older file stays, and what earlier runs left goes.
+TEST_F(Conversion, FailuresNameTheStepAndKeepTheOlderFile) {
+    const std::string run = "failed to run ZeltoPre.exe (",
+                      copy = "failed to copy file \"Zelto.xml\"";
+    const std::tuple<const char*, const char*, zlConverterRunner, std::string> cases[] = {
+        {"Legacy.xml", "not the password", zlRunConverter, run + ") - (Incorrect password)"},
+        {"BrokenMismatchedTags.xml", kLegacyFixturePassword, zlRunConverter, run + ") - (5)"},
+        {"Legacy.xml", "2", reportingRun, run + "its report) - (Incorrect password)"},
+        {"Legacy.xml", "3", reportingRun, run + "its report) - (3)"},
+        {nullptr, kLegacyFixturePassword, zlRunConverter, copy + " to \"ZeltoPre.xml\""},
+        {"Legacy.xml", "0", reportingRun, copy + " to \"Zelto.backup.xml\""}};
+    fs::create_directory(dir / kBackup);  // a folder cannot be copied over
+    for (const auto& [fixture, password, runner, expected] : cases) {
+        fs::remove(dir / "Zelto.xml");
+        if (fixture)
+            write(readBytes(converterData(fixture)));
+        for (const char* name : {"ZeltoPre.exe", "ZeltoPre.xml", "ZeltoPre.xml.new"})
+            writeBytes(dir / name, "left from an earlier run");
+        EXPECT_EQ(zlReadFailed, read(password, runner)) << expected;
+        EXPECT_EQ(expected, u8(detail));
+        EXPECT_EQ(fixture ? legacy : "", readBytes(dir / "Zelto.xml")) << expected;
+        EXPECT_EQ((fixture ? Texts{kBackup, "Zelto.xml"} : Texts{kBackup}), filesIn(dir));
     }
-}
-
-TEST_F(Conversion, MissingKeyFileFailsAtTheFirstCopyAndLeftoversGo) {
-    fs::remove(keyFile);
-    ztest::writeBytes(dir / "ZeltoPre.exe", "left from an earlier run");
-    ztest::writeBytes(dir / "ZeltoPre.xml", "left from an earlier run");
-    ztest::writeBytes(dir / "ZeltoPre.xml.new", "left from an earlier run");
-    EXPECT_EQ(zlReadFailed, readWithConversion(ztest::kLegacyFixturePassword));
-    EXPECT_EQ("failed to copy file \"Zelto.xml\" to \"ZeltoPre.xml\"", narrow(detail));
-    expectTemporariesGone();
-}
-
-TEST_F(Conversion, FailedBackupKeepsTheOlderFileInPlace) {
-    // A folder under the backup's name cannot be copied over.
-    fs::create_directory(dir / "Zelto.backup.2026_03_09_00_00_00_0815.xml");
-    EXPECT_EQ(zlReadFailed, readWithConversion(ztest::kLegacyFixturePassword));
-    EXPECT_EQ("failed to copy file \"Zelto.xml\" to \"Zelto.backup.xml\"", narrow(detail));
-    EXPECT_EQ(legacyBytes, ztest::readBytes(keyFile));
-    expectTemporariesGone();
-}
-
-TEST_F(Conversion, FileSetWithoutFolderConvertsNothing) {
-    const zlFileSet empty = zlFileSet::in(dm_string(), zlNow());
-    EXPECT_EQ(zlReadFailed, zlReadWithConversion(
-                                file, empty, dm_utf8_str(ztest::kLegacyFixturePassword), detail));
-    EXPECT_EQ("dm_system::get_this_exe_path(..) failed", narrow(detail));
-    EXPECT_EQ(legacyBytes, ztest::readBytes(keyFile));
-
-    // The converter itself needs the folder too, before it runs at all.
-    files.folder.clear();
-    unsigned long exitCode = 12345;
-    EXPECT_FALSE(
-        zlRunConverter(files, dm_utf8_str(ztest::kLegacyFixturePassword), detail, exitCode));
-    EXPECT_EQ("GetThisPathName(..) returned \"\"", narrow(detail));
-    EXPECT_EQ(0u, exitCode);
-    EXPECT_FALSE(fs::exists(dir / "ZeltoPre.exe"));
+    // A converter that claims success without converting leaves the older format.
+    fs::remove(dir / kBackup);
+    EXPECT_EQ(zlReadOlderFormat, read("0", reportingRun));
+    EXPECT_EQ("conversion to new xml format failed", u8(detail));
+    EXPECT_EQ(legacy, readBytes(dir / "Zelto.xml"));
 }
 
 #ifdef _WIN32
@@ -163,20 +124,30 @@ TEST_F(Conversion, KeyFileThatCannotBeReplacedStaysTheOlderFile) {
     HANDLE held = CreateFileW(files.keyFile.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     ASSERT_NE(INVALID_HANDLE_VALUE, held);
-    EXPECT_EQ(zlReadFailed, readWithConversion(ztest::kLegacyFixturePassword));
+    EXPECT_EQ(zlReadFailed, read(kLegacyFixturePassword));
     CloseHandle(held);
-    EXPECT_EQ("failed to copy file \"ZeltoPre.xml\" to \"Zelto.xml\"", narrow(detail));
-    EXPECT_EQ(legacyBytes, ztest::readBytes(keyFile));
-    expectTemporariesGone();
+    EXPECT_EQ("failed to copy file \"ZeltoPre.xml\" to \"Zelto.xml\"", u8(detail));
+    EXPECT_EQ(legacy, readBytes(dir / "Zelto.xml"));
+    EXPECT_EQ((Texts{kBackup, "Zelto.xml"}), filesIn(dir));
 }
 #endif
 
-// Convert key file alone leaves its working copy behind; only the reading cleans up.
-TEST_F(Conversion, ConvertKeyFileReplacesTheKeyFileWithTheWorkingCopy) {
-    ASSERT_TRUE(zlConvertKeyFile(files, dm_utf8_str(ztest::kLegacyFixturePassword), detail))
-        << narrow(detail);
-    EXPECT_EQ(ztest::readBytes(dir / "ZeltoPre.xml"), ztest::readBytes(keyFile));
-    EXPECT_NE(legacyBytes, ztest::readBytes(keyFile));
+// In this process the converter clears what an earlier run reported; either way it needs the
+// folder before it starts at all, and so does the reading, which still clears up.
+TEST_F(Conversion, RunningTheConverterNeedsTheFolder) {
+    fs::copy_file(dir / "Zelto.xml", dir / "ZeltoPre.xml");
+    unsigned long exitCode = 12345;
+    detail = w("stale");
+    EXPECT_TRUE(zlRunConverterInProcess(files, kLegacyFixturePassword, detail, exitCode));
+    EXPECT_TRUE(exitCode == 0 && detail.empty());
+    files.folder.clear();
+    for (zlConverterRunner run : {zlRunConverter, zlRunConverterInProcess}) {
+        exitCode = 12345;
+        EXPECT_FALSE(run(files, kLegacyFixturePassword, detail, exitCode));
+        EXPECT_EQ("GetThisPathName(..) returned \"\" 0",
+                  u8(detail) + " " + std::to_string(exitCode));
+    }
+    EXPECT_EQ(zlReadFailed, zlReadWithConversion(file, files, kLegacyFixturePassword, detail));
+    EXPECT_EQ("failed to convert xml file to new format", u8(detail));
+    EXPECT_EQ(Texts{"Zelto.xml"}, filesIn(dir));
 }
-
-}  // namespace

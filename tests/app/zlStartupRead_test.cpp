@@ -1,102 +1,55 @@
-// Reading the key file once the password is known, with the conversion of older files.
+// Reading the key file once the password is known; an older file is converted on the way
+// (the conversion itself is tested in zlConversion_test).
 #include "app/zlStartupRead.h"
 
-#include <gtest/gtest.h>
+#include <tuple>
 
-#include <filesystem>
-#include <string>
-
-#include "app/zlInstance.h"
+#include "app_test_util.h"
 #include "model/zlFileFormat.h"
-#include "model/zlVerify.h"
-#include "support/legacy_fixture.h"
-#include "support/program_files.h"
-#include "support/test_util.h"
 
-using namespace Zelto;
-using dunmar::dm_string;
-using dunmar::dm_utf8_str;
+class StartupRead : public ProgramFolder {};
 
-namespace {
-
-const char* kPassword = "Startup1password";
-
-std::string n(const dm_string& text) {
-    return text.to_utf8().str();
-}
-
-class StartupRead : public ::testing::Test {
-  protected:
-    void SetUp() override { files = ztest::programFilesIn(dir); }
-
-    bool read(const char* password) {
+// One row per key file (null: none) and password: whether it reads, and the detail. A file
+// without a key list gets an empty one; a file of the older format is converted.
+TEST_F(StartupRead, ResultsAndDetails) {
+    const char* pw = "Startup1password";
+    const std::string whole = zlSkeletonText(zlMakeVerifyValue(pw)).str(), none;
+    const std::string keys = "  <keys>\r\n  </keys>\r\n", end = "</Zelto>\r\n";
+    const std::string bare = whole.substr(0, whole.find(keys)) + end;
+    const std::string noSettings = whole.substr(0, whole.find("  <settings>")) + keys + end;
+    const std::string older = readBytes(converterData("Legacy.xml"));
+    const char* lost = "<settings> section not found";
+    const char* wrong = "failed to run ZeltoPre.exe () - (Incorrect password)";
+    const char* right = kLegacyFixturePassword;
+    const std::tuple<const std::string*, const char*, bool, const char*> cases[] = {
+        {&whole, pw, true, ""},         {&bare, pw, true, ""},
+        {nullptr, pw, false, ""},       {&none, pw, false, ""},
+        {&noSettings, pw, false, lost}, {&older, "not right", false, wrong},
+        {&older, right, true, ""}};
+    for (const auto& [text, password, reads, expected] : cases) {
+        SCOPED_TRACE(text ? text->substr(0, 80) : "no file");
+        fs::remove(dir / "Zelto.xml");
+        if (text)
+            writeBytes(dir / "Zelto.xml", *text);
         file.set_pass_phrase(password);
-        detail = dm_string(DM_W("left from an earlier read"));
-        return zlReadKeyFileWithConversion(file, files, dm_utf8_str(password), detail);
+        detail = w("left from an earlier read");
+        EXPECT_EQ(reads, zlReadKeyFileWithConversion(file, files, password, detail));
+        EXPECT_EQ(expected, u8(detail));
+        if (reads && text != &older) {
+            EXPECT_EQ(0u, file.keys() ? file.keys()->childCount() : 99);
+            EXPECT_EQ(zlPasswordRight, zlCheckPassword(file));
+            EXPECT_EQ(*text, readBytes(dir / "Zelto.xml"));  // read, not written
+        }
     }
-    void write(const std::string& text) { ztest::writeBytes(dir / "Zelto.xml", text); }
-
-    ztest::TempDir dir;
-    zlFileSet files;
-    zlKeyFile file;
-    dm_string detail;
-};
-
-// A current file is read as it is; one without a key list gets an empty one.
-TEST_F(StartupRead, CurrentFileWithOrWithoutKeyList) {
-    const std::string whole = zlSkeletonText(zlMakeVerifyValue(kPassword)).str();
-    std::string bare = whole;
-    const std::string keys = "  <keys>\r\n  </keys>\r\n";
-    ASSERT_NE(std::string::npos, bare.find(keys));
-    bare.erase(bare.find(keys), keys.size());
-    for (const std::string& text : {whole, bare}) {
-        write(text);
-        ASSERT_TRUE(read(kPassword)) << n(detail);
-        EXPECT_TRUE(detail.empty());
-        ASSERT_NE(nullptr, file.keys());
-        EXPECT_EQ(0u, file.keys()->childCount());
-        EXPECT_EQ(zlPasswordRight, zlCheckPassword(file));
-        EXPECT_EQ(text, ztest::readBytes(dir / "Zelto.xml"));
-    }
-}
-
-TEST_F(StartupRead, UnreadableFilesFail) {
-    EXPECT_FALSE(read(kPassword));  // no file at all
-    EXPECT_TRUE(detail.empty()) << n(detail);
-    const std::pair<std::string, std::string> cases[] = {
-        {"", ""},
-        {"<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n<Zelto>\r\n  <keys>\r\n  </keys>\r\n"
-         "</Zelto>\r\n",
-         "<settings> section not found"},
-    };
-    for (const auto& c : cases) {
-        write(c.first);
-        EXPECT_FALSE(read(kPassword)) << c.second;
-        EXPECT_EQ(c.second, n(detail));
-    }
-}
-
-// The conversion itself is tested in zlConversion_test; here only that it is reached.
-TEST_F(StartupRead, OlderFileIsConvertedUnderItsPasswordOnly) {
-    const std::string legacy = ztest::readBytes(ztest::converterData("Legacy.xml"));
-    write(legacy);
-    EXPECT_FALSE(read("not the password"));
-    EXPECT_EQ("failed to run ZeltoPre.exe () - (Incorrect password)", n(detail));
-    EXPECT_EQ(legacy, ztest::readBytes(dir / "Zelto.xml"));
-
-    ASSERT_TRUE(read(ztest::kLegacyFixturePassword)) << n(detail);
-    EXPECT_EQ(zlPasswordRight, zlCheckPassword(file));
-    EXPECT_EQ(ztest::legacyFixtureKeys(), ztest::plainKeys(file));
-    EXPECT_FALSE(zlIsOlderFormat(dm_utf8_str(ztest::readBytes(dir / "Zelto.xml"))));
+    EXPECT_EQ(legacyFixtureKeys(), plainKeys(file));
+    EXPECT_FALSE(zlIsOlderFormat(dm_utf8_str(readBytes(dir / "Zelto.xml"))));
 }
 
 TEST(StartupMessages, NameThePathInQuotes) {
-    const dm_string path(DM_W("C:\\Tools\\Zelto.xml"));
-    EXPECT_EQ("ERROR: failed to read \"C:\\Tools\\Zelto.xml\"", n(zlReadFailureText(path, {})));
-    EXPECT_EQ("ERROR: failed to read \"C:\\Tools\\Zelto.xml\" (<settings> section not found)",
-              n(zlReadFailureText(path, dm_string(DM_W("<settings> section not found")))));
-    EXPECT_EQ("ERROR: Failed to create default Zelto Xml-File \"C:\\Tools\\Zelto.xml\"",
-              n(zlCreateFailureText(path)));
+    const dm_string path = w("C:\\Zelto.xml");
+    EXPECT_EQ("ERROR: failed to read \"C:\\Zelto.xml\"", u8(zlReadFailureText(path, {})));
+    EXPECT_EQ("ERROR: failed to read \"C:\\Zelto.xml\" (why)",
+              u8(zlReadFailureText(path, w("why"))));
+    EXPECT_EQ("ERROR: Failed to create default Zelto Xml-File \"C:\\Zelto.xml\"",
+              u8(zlCreateFailureText(path)));
 }
-
-}  // namespace
