@@ -33,8 +33,12 @@ has() { [[ $out == *"$1"* ]] || fail "output lacks: $1"; }
 # Help, and what is refused before there is a key file.
 t 0 '*' "" --help
 for command in init ls labels show get add edit rm passwd backup settings export help; do has "  $command "; done
+has $'\n  get KEY FIELD         print one field\'s value\n'
+t 0 '*' "" add --help
+has $'\n  --password-stdin      read the key\'s password as the next secret\n'
+has $'\n--generate and --password-stdin exclude each other.\n'
 t 0 '*' "" show --help
-[[ $out == "Usage: zelto-cli [--file PATH] show KEY"* ]] || fail "help of show"
+[[ $out == "Usage: zelto-cli [--file PATH] show KEY"* && $out != *exclude* ]] || fail "help of show"
 x 1 "" $'unknown command \'frobnicate\'\nRun \'zelto-cli --help\' for the commands and their options.' frobnicate
 x 4 "" "failed to read \"$file\" (no such file; 'zelto-cli init' creates one)" ls
 x 1 $'abc1234\nabc1234\n' "Password size to small" init
@@ -66,7 +70,7 @@ t 0 $'#1\nname:  github\nlabel: work, dev\nuser:  alice\npw:    ********\nemail:
   "$m" show github
 t 0 '*' "$m" show '#1' --json --reveal
 has '"pw": "gh-secret-1"'
-t 0 gh-secret-1 "$m" get github pw
+t 0 $'first line\nsecond line' "$m" get github note
 t 0 '*' "$m" get bank pw
 [[ $out =~ ^zl[A-Za-z0-9]{14}$ ]] || fail "generated password $out"
 # Wrong or missing master passwords; refusals that ask for nothing.
@@ -109,12 +113,12 @@ t 0 '*' "$m" backup
 x 1 "" "--language takes English or Deutsch" settings --language Francais
 t 0 $'autolock: 30\nclear-clipboard: 30\nshow-selected: 2\nlanguage: English\nfirst-name: \nlast-name: \nemail: ' \
   "$m" settings
-t 0 '*' "$m" settings --autolock 4 --clear-clipboard 601 --show-selected 31
-has $'autolock: 0\nclear-clipboard: 600\nshow-selected: 30\n'
+t 0 '*' "$m" settings --clear-clipboard 601
+has $'autolock: 30\nclear-clipboard: 600\nshow-selected: 2\n'
 t 0 '*' "$m" settings --language Deutsch
-t 0 $'autolock: 5\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: Ada\nlast-name: Lovelace\nemail: ada@example.org' \
-  "$m" settings --autolock 5 --first-name Ada --last-name Lovelace --email ada@example.org
-grep -q '<autolock>5</autolock>' "$work/Zelto.xml" || fail "autolock not stored"
+t 0 $'autolock: 0\nclear-clipboard: 600\nshow-selected: 30\nlanguage: Deutsch\nfirst-name: Ada\nlast-name: Lovelace\nemail: ada@example.org' \
+  "$m" settings --autolock 4 --show-selected 31 --first-name Ada --last-name Lovelace --email ada@example.org
+grep -q '<autolock>0</autolock>' "$work/Zelto.xml" || fail "autolock not stored"
 grep -q Lovelace "$work/Zelto.xml" && fail "a user field was stored in plain text"
 t 0 '*' "$m" settings --last-name ""
 has $'first-name: Ada\nlast-name: \nemail: ada@example.org'

@@ -5,6 +5,8 @@
 //     openssl dgst -sha256 -mac HMAC -macopt hexkey:$HEX -binary | base64
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "cloud/zlCloudCrypto.h"
 #include "cloud/zlConnectionString.h"
 #include "cloud/zlHttpDate.h"
@@ -33,8 +35,8 @@ TEST(ConnectionString, AccountAndEndpointOfEachForm) {
          "zeltokeys zeltokeys.table.core.windows.net 443"},
         {" accountname=Az09 " + key + ";;defaultendpointsprotocol=HTTP;\n",
          "http://Az09.table.core.windows.net", "Az09 Az09.table.core.windows.net 80"},
-        {"AccountName=abc" + key + ";EndpointSuffix=Zz-9.example", "https://abc.table.Zz-9.example",
-         "abc abc.table.Zz-9.example 443"},
+        {"AccountName=abc" + key + ";EndpointSuffix=Zz-09.example", "https://abc.table.Zz-09.example",
+         "abc abc.table.Zz-09.example 443"},
         {"AccountName=abc" + key + ";BlobEndpoint=x;TableEndpoint=http://127.0.0.1:19999/a/",
          "http://127.0.0.1:19999/a", "abc 127.0.0.1 19999/a"},
         {"AccountName=abc" + key + ";TableEndpoint=https://[::1]:65535/a/b//",
@@ -106,12 +108,27 @@ TEST(SharedKey, DatesResourcesAndStringsToSign) {
     std::string out = "left over";
     EXPECT_FALSE(zlBase64Decode("Zm9", out) || !out.empty());
 
-    const std::pair<int64_t, const char*> dates[] = {{0, "Thu, 01 Jan 1970 00:00:00 GMT"},
-                                                     {-1, "Wed, 31 Dec 1969 23:59:59 GMT"},
-                                                     {951782400, "Tue, 29 Feb 2000 00:00:00 GMT"},
-                                                     {1704164645, kDate}};
-    for (const auto& d : dates)
-        EXPECT_EQ(d.second, zlHttpDate(d.first));
+    // Every day from 0000-01-01 (a Saturday) to 2100, walked one at a time, at some time of day.
+    static const char* const weekdays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    static const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    int year = 0, month = 1, day = 1, weekday = 6, wrong = 0;
+    for (int64_t days = -719528; year < 2100; ++days) {
+        const int64_t second =
+            static_cast<int64_t>(static_cast<uint64_t>(days) * 2654435761u % 86400);
+        char expected[40];
+        std::snprintf(expected, sizeof expected, "%s, %02d %s %04d %02d:%02d:%02d GMT",
+                      weekdays[weekday], day, months[month - 1], year, int(second / 3600),
+                      int(second / 60 % 60), int(second % 60));
+        if (zlHttpDate(days * 86400 + second) != expected && ++wrong < 5)
+            ADD_FAILURE() << expected << " came out as " << zlHttpDate(days * 86400 + second);
+        const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+        const int length = month == 2 ? 28 + leap : 30 + (month + month / 8) % 2;
+        weekday = (weekday + 1) % 7;
+        if (++day > length && (day = 1, ++month > 12))
+            month = 1, ++year;
+    }
+    EXPECT_EQ(0, wrong);
     // Only a comp parameter of the query is signed.
     const std::pair<const char*, const char*> resources[] = {
         {"/devstoreaccount1/Tables", "/acct/devstoreaccount1/Tables"},
