@@ -42,6 +42,7 @@ TEST_F(MasterPassword, EveryFieldIsReEncipheredWithABackupFirst) {
     ASSERT_EQ(zlChangeDone, change(kNew, kNew, files));
     EXPECT_EQ(saved, readBytes(dir / kBackup));
     EXPECT_EQ(plain, plainView(file));
+    ASSERT_EQ(zlSaved, zlSaveKeyFile(file));  // the tree holds what the file holds
     // Read afresh, the new password gives the same plain texts; the old one is wrong.
     for (const char* password : {kNew, kShortPass}) {
         zlKeyFile again;

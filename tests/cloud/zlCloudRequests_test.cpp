@@ -25,9 +25,9 @@ const char* kDate = "Tue, 02 Jan 2024 03:04:05 GMT";
 // padding stays. No protocol means https, no suffix the public one.
 TEST(ConnectionString, AccountAndEndpointOfEachForm) {
     const std::string key = ";AccountKey=" + kKey;
+    const std::string a63(63, 'a');  // the longest name taken
     const struct {
-        std::string text;
-        const char *endpoint, *parts;  // name host port path
+        std::string text, endpoint, parts;  // parts: name host port path
     } cases[] = {
         {"DefaultEndpointsProtocol=https;AccountName=zeltokeys" + key +
              ";EndpointSuffix=core.windows.net",
@@ -42,7 +42,9 @@ TEST(ConnectionString, AccountAndEndpointOfEachForm) {
         {"AccountName=abc" + key + ";TableEndpoint=https://[::1]:65535/a/b//",
          "https://[::1]:65535/a/b", "abc ::1 65535/a/b"},
         {"UseDevelopmentStorage=true", "http://127.0.0.1:10002/devstoreaccount1",
-         "devstoreaccount1 127.0.0.1 10002/devstoreaccount1"}};
+         "devstoreaccount1 127.0.0.1 10002/devstoreaccount1"},
+        {"AccountName=" + a63 + key, "https://" + a63 + ".table.core.windows.net",
+         a63 + " " + a63 + ".table.core.windows.net 443"}};
     for (const auto& c : cases) {
         zlStorageAccount a;
         const zlCloudResult result = zlParseConnectionString(c.text, a);
