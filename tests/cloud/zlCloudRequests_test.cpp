@@ -127,8 +127,11 @@ TEST(SharedKey, DatesResourcesAndStringsToSign) {
         const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
         const int length = month == 2 ? 28 + leap : 30 + (month + month / 8) % 2;
         weekday = (weekday + 1) % 7;
-        if (++day > length && (day = 1, ++month > 12))
-            month = 1, ++year;
+        if (++day > length) {
+            day = 1;
+            year += month / 12;
+            month = month % 12 + 1;
+        }
     }
     EXPECT_EQ(0, wrong);
     // Only a comp parameter of the query is signed.

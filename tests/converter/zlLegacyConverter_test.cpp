@@ -133,6 +133,13 @@ TEST_F(LegacyConversion, RefusalsLeaveTheFileAsItWas) {
         if (entry.path().filename().string().rfind("Broken", 0) == 0)
             cases.push_back({ztest::readBytes(entry.path()), pw, 5});
     }
+    // Nesting that only the walk's own checks refuse: the root closed twice, a key inside a
+    // key, a key list inside the key list.
+    for (const auto& [from, to] :
+         {std::pair<std::string, std::string>{"</Zelto>", "</Zelto></Zelto>"},
+          {"</key>", "<key/>"},
+          {"</keys>", "<keys/>"}})
+        cases.push_back({std::string(legacy).replace(legacy.find(from), from.size(), to), pw, 5});
     ASSERT_EQ(cases.size(), 26u);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.text.substr(0, 300));
